@@ -1,0 +1,179 @@
+#include "storage/TypedStreamDecoder.h"
+
+#include "storage/TypedStreamObject.h"
+#include "storage/TypedStreamReader.h"
+
+namespace {
+
+QString typeCode(char type)
+{
+    return QString(QLatin1Char(type));
+}
+
+const std::vector<TypedStreamValue> &noValues()
+{
+    static const std::vector<TypedStreamValue> none;
+    return none;
+}
+
+} // namespace
+
+TypedStreamDecoder::TypedStreamDecoder(const TypedStreamReader &reader)
+    : TypedStreamDecoder(reader, &reader.topLevelValues(), QByteArrayLiteral("top level"),
+                         std::make_shared<QString>(reader.errorString()))
+{
+}
+
+TypedStreamDecoder::TypedStreamDecoder(const TypedStreamReader &reader,
+                                       const std::vector<TypedStreamValue> *values,
+                                       QByteArray context, std::shared_ptr<QString> error)
+    : m_reader(&reader)
+    , m_values(values)
+    , m_context(std::move(context))
+    , m_error(std::move(error))
+{
+}
+
+TypedStreamDecoder TypedStreamDecoder::decoderFor(const TypedStreamObject *object) const
+{
+    TypedStreamDecoder decoder(*m_reader, object ? &object->values : &noValues(),
+                               object ? object->className() : QByteArrayLiteral("nil"), m_error);
+    if (!object)
+        decoder.fail(QStringLiteral("there is no object to decode"));
+    return decoder;
+}
+
+const TypedStreamValue *TypedStreamDecoder::take(char type)
+{
+    if (hasError())
+        return nullptr;
+    if (atEnd()) {
+        fail(QStringLiteral("a value of type '%1' was asked for, but no value is left")
+                 .arg(typeCode(type)));
+        return nullptr;
+    }
+    const TypedStreamValue &value = (*m_values)[m_next];
+    if (value.type != type) {
+        fail(QStringLiteral("value %1 has type '%2', not '%3'")
+                 .arg(m_next + 1)
+                 .arg(typeCode(value.type), typeCode(type)));
+        return nullptr;
+    }
+    ++m_next;
+    return &value;
+}
+
+template<typename T>
+const T *TypedStreamDecoder::takeAs(char type)
+{
+    const TypedStreamValue *value = take(type);
+    return value ? std::get_if<T>(&value->data) : nullptr;
+}
+
+void TypedStreamDecoder::fail(const QString &message)
+{
+    if (!hasError())
+        *m_error = QStringLiteral("%1: %2").arg(QString::fromUtf8(m_context), message);
+}
+
+qint32 TypedStreamDecoder::decodeInt()
+{
+    const qint64 *value = takeAs<qint64>('i');
+    return value ? qint32(*value) : 0;
+}
+
+qint32 TypedStreamDecoder::decodeLong()
+{
+    const qint64 *value = takeAs<qint64>('l');
+    return value ? qint32(*value) : 0;
+}
+
+char TypedStreamDecoder::decodeChar()
+{
+    const qint64 *value = takeAs<qint64>('c');
+    return value ? char(*value) : '\0';
+}
+
+float TypedStreamDecoder::decodeFloat()
+{
+    const double *value = takeAs<double>('f');
+    return value ? float(*value) : 0.0f;
+}
+
+const TypedStreamObject *TypedStreamDecoder::decodeObject()
+{
+    const auto *object = takeAs<const TypedStreamObject *>('@');
+    return object ? *object : nullptr;
+}
+
+QString TypedStreamDecoder::decodeString()
+{
+    const TypedStreamObject *object = decodeObject();
+    if (!object)
+        return {};
+    if (!object->inherits("NSString")) {
+        fail(QStringLiteral("expected a string, found an object of class %1")
+                 .arg(QString::fromUtf8(object->className())));
+        return {};
+    }
+    TypedStreamDecoder contents = decoderFor(object);
+    const QByteArray *utf8 = contents.takeAs<QByteArray>('+');
+    if (!utf8 || !contents.finish())
+        return {};
+    return QString::fromUtf8(*utf8);
+}
+
+QList<const TypedStreamObject *> TypedStreamDecoder::decodeArray()
+{
+    const TypedStreamObject *object = decodeObject();
+    if (!object)
+        return {};
+    if (!object->inherits("NSArray")) {
+        fail(QStringLiteral("expected an array, found an object of class %1")
+                 .arg(QString::fromUtf8(object->className())));
+        return {};
+    }
+    TypedStreamDecoder contents = decoderFor(object);
+    const qint32 count = contents.decodeInt();
+    if (count < 0)
+        contents.fail(QStringLiteral("a negative count %1").arg(count));
+    QList<const TypedStreamObject *> elements;
+    // The count is not trusted for an allocation: each element must be there.
+    for (qint32 i = 0; i < count && !contents.hasError(); ++i) {
+        const TypedStreamObject *element = contents.decodeObject();
+        if (!element && !contents.hasError())
+            contents.fail(QStringLiteral("element %1 is nil").arg(i));
+        elements.append(element);
+    }
+    if (!contents.finish())
+        return {};
+    return elements;
+}
+
+const TypedStreamValue *TypedStreamDecoder::decodeValue()
+{
+    const char type = nextType();
+    return type ? take(type) : nullptr;
+}
+
+bool TypedStreamDecoder::atEnd() const
+{
+    return m_next >= m_values->size();
+}
+
+char TypedStreamDecoder::nextType() const
+{
+    return atEnd() ? '\0' : (*m_values)[m_next].type;
+}
+
+bool TypedStreamDecoder::finish()
+{
+    if (!hasError() && !atEnd())
+        fail(QStringLiteral("%1 values left unread").arg(m_values->size() - m_next));
+    return !hasError();
+}
+
+std::optional<int> TypedStreamDecoder::versionForClassName(QByteArrayView className) const
+{
+    return m_reader->versionForClassName(className);
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "storage/TypedStreamValue.h"
+
+#include <QByteArrayView>
+#include <QHash>
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+struct TypedStreamObject;
+
+// Decodes a whole archive of the Mac's sequential archiver, in either byte
+// order, into a tree of objects and values; the stream describes itself, so
+// no knowledge of the archived classes is needed. TypedStreamDecoder then
+// walks an object's values the way its initWithCoder: would.
+//
+// The reader owns every object of the tree. An object that the stream holds
+// once and references again is the same TypedStreamObject at every place;
+// a reference to an object that is still being read (a cycle) is refused,
+// so the objects always form an acyclic graph of bounded depth.
+//
+// Any bytes are safe to read: malformed input makes isValid() false with a
+// description in errorString() and leaves the tree empty.
+class TypedStreamReader
+{
+public:
+    explicit TypedStreamReader(QByteArrayView data);
+    ~TypedStreamReader();
+    TypedStreamReader(TypedStreamReader &&) noexcept;
+    TypedStreamReader &operator=(TypedStreamReader &&) noexcept;
+    TypedStreamReader(const TypedStreamReader &) = delete;
+    TypedStreamReader &operator=(const TypedStreamReader &) = delete;
+
+    bool isValid() const { return m_errorString.isEmpty(); }
+    const QString &errorString() const { return m_errorString; }
+
+    // Whether a big-endian machine (a PowerPC Mac) wrote the stream.
+    bool isBigEndian() const { return m_bigEndian; }
+    qint64 systemVersion() const { return m_systemVersion; }
+
+    // The values of all top-level groups. An archive of one root object holds
+    // exactly one, an "@".
+    const std::vector<TypedStreamValue> &topLevelValues() const { return m_topLevelValues; }
+    // The first top-level value when it is a (non-nil) object.
+    const TypedStreamObject *rootObject() const;
+
+    // The version recorded with the class of that name, if the stream names it.
+    std::optional<int> versionForClassName(QByteArrayView className) const;
+
+private:
+    class Parser;
+
+    std::vector<std::unique_ptr<TypedStreamObject>> m_objects;
+    std::vector<TypedStreamValue> m_topLevelValues;
+    QHash<QByteArray, int> m_classVersions;
+    QString m_errorString;
+    bool m_bigEndian = false;
+    qint64 m_systemVersion = 0;
+};
