@@ -10,22 +10,16 @@ QString typeCode(char type)
     return QString(QLatin1Char(type));
 }
 
-const std::vector<TypedStreamValue> &noValues()
-{
-    static const std::vector<TypedStreamValue> none;
-    return none;
-}
-
 } // namespace
 
 TypedStreamDecoder::TypedStreamDecoder(const TypedStreamReader &reader)
-    : TypedStreamDecoder(reader, &reader.topLevelValues(), QByteArrayLiteral("top level"),
+    : TypedStreamDecoder(reader, reader.topLevelValues(), QByteArrayLiteral("top level"),
                          std::make_shared<QString>(reader.errorString()))
 {
 }
 
 TypedStreamDecoder::TypedStreamDecoder(const TypedStreamReader &reader,
-                                       const std::vector<TypedStreamValue> *values,
+                                       std::span<const TypedStreamValue> values,
                                        QByteArray context, std::shared_ptr<QString> error)
     : m_reader(&reader)
     , m_values(values)
@@ -36,7 +30,7 @@ TypedStreamDecoder::TypedStreamDecoder(const TypedStreamReader &reader,
 
 TypedStreamDecoder TypedStreamDecoder::decoderFor(const TypedStreamObject *object) const
 {
-    TypedStreamDecoder decoder(*m_reader, object ? &object->values : &noValues(),
+    TypedStreamDecoder decoder(*m_reader, object ? object->values : std::span<const TypedStreamValue>(),
                                object ? object->className() : QByteArrayLiteral("nil"), m_error);
     if (!object)
         decoder.fail(QStringLiteral("there is no object to decode"));
@@ -52,7 +46,7 @@ const TypedStreamValue *TypedStreamDecoder::take(char type)
                  .arg(typeCode(type)));
         return nullptr;
     }
-    const TypedStreamValue &value = (*m_values)[m_next];
+    const TypedStreamValue &value = m_values[m_next];
     if (value.type != type) {
         fail(QStringLiteral("value %1 has type '%2', not '%3'")
                  .arg(m_next + 1)
@@ -158,18 +152,18 @@ const TypedStreamValue *TypedStreamDecoder::decodeValue()
 
 bool TypedStreamDecoder::atEnd() const
 {
-    return m_next >= m_values->size();
+    return m_next >= m_values.size();
 }
 
 char TypedStreamDecoder::nextType() const
 {
-    return atEnd() ? '\0' : (*m_values)[m_next].type;
+    return atEnd() ? '\0' : m_values[m_next].type;
 }
 
 bool TypedStreamDecoder::finish()
 {
     if (!hasError() && !atEnd())
-        fail(QStringLiteral("%1 values left unread").arg(m_values->size() - m_next));
+        fail(QStringLiteral("%1 values left unread").arg(m_values.size() - m_next));
     return !hasError();
 }
 

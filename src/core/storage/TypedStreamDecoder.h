@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 class TypedStreamReader;
@@ -61,7 +62,7 @@ public:
     std::optional<int> versionForClassName(QByteArrayView className) const;
 
 private:
-    TypedStreamDecoder(const TypedStreamReader &reader, const std::vector<TypedStreamValue> *values,
+    TypedStreamDecoder(const TypedStreamReader &reader, std::span<const TypedStreamValue> values,
                        QByteArray context, std::shared_ptr<QString> error);
 
     const TypedStreamValue *take(char type);
@@ -70,7 +71,7 @@ private:
     void fail(const QString &message);
 
     const TypedStreamReader *m_reader;
-    const std::vector<TypedStreamValue> *m_values;
+    std::span<const TypedStreamValue> m_values;
     std::size_t m_next = 0;
     QByteArray m_context;  // whose values, for messages
     std::shared_ptr<QString> m_error;

@@ -6,14 +6,14 @@
 #include <QByteArrayView>
 
 #include <algorithm>
-#include <vector>
+#include <span>
 
 // An archived object: its class chain and the values its encoder wrote, the
-// values of all its groups in one sequence.
+// values of all its groups in one sequence (held by the reader that made it).
 struct TypedStreamObject
 {
     TypedStreamClassChain classChain;
-    std::vector<TypedStreamValue> values;
+    std::span<const TypedStreamValue> values;
 
     QByteArray className() const
     {

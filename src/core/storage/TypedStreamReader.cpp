@@ -5,11 +5,12 @@
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 #include <limits>
 #include <optional>
-#include <unordered_map>
+#include <memory>
 #include <variant>
 
 using namespace TypedStreamFormat;
@@ -214,25 +215,29 @@ private:
         return length;
     }
 
-    qsizetype readLabel(quint8 head, qsizetype tableSize, const QString &what)
+    // `what` is named only when the label is wrong, so the common path builds no text.
+    qsizetype readLabel(quint8 head, qsizetype tableSize, const char *what)
     {
         const qint64 label = readInteger(head);
         if (label < -LabelBias || label >= qint64(tableSize) - LabelBias)
-            fail(QStringLiteral("label %1 refers to no earlier %2").arg(label).arg(what));
+            fail(QStringLiteral("label %1 refers to no earlier %2").arg(label).arg(QLatin1StringView(what)));
         return qsizetype(indexForLabel(label));
     }
 
-    // Answers the index in the shared-string table, or nothing for nil.
-    std::optional<qsizetype> readSharedString()
+    // Answers the index in the shared-string table, or NilString for nil. (A
+    // plain index rather than an optional: this runs for every value, and
+    // an optional returned through memory costs a store-forwarding stall.)
+    static constexpr qsizetype NilString = -1;
+    qsizetype readSharedString()
     {
         const quint8 head = readByte();
         if (head == NilTag)
-            return std::nullopt;
+            return NilString;
         if (head == NewTag) {
             m_sharedStrings.push_back(readBytes(readLength()));
             return qsizetype(m_sharedStrings.size()) - 1;
         }
-        return readLabel(head, qsizetype(m_sharedStrings.size()), QStringLiteral("shared string"));
+        return readLabel(head, qsizetype(m_sharedStrings.size()), "shared string");
     }
 
     std::optional<QByteArray> readCString()
@@ -241,14 +246,14 @@ private:
         if (head == NilTag)
             return std::nullopt;
         if (head == NewTag) {
-            const auto text = readSharedString();
-            if (!text)
+            const qsizetype text = readSharedString();
+            if (text == NilString)
                 fail(QStringLiteral("a C string without text"));
-            m_objectTable.emplace_back(m_sharedStrings[*text]);
-            return m_sharedStrings[*text];
+            m_objectTable.emplace_back(m_sharedStrings[text]);
+            return m_sharedStrings[text];
         }
         const qsizetype index =
-            readLabel(head, qsizetype(m_objectTable.size()), QStringLiteral("C string"));
+            readLabel(head, qsizetype(m_objectTable.size()), "C string");
         const auto *text = std::get_if<QByteArray>(&m_objectTable[index]);
         if (!text)
             fail(QStringLiteral("a C string label refers to an object or class"));
@@ -259,17 +264,22 @@ private:
 
     const std::vector<Type> &typesOf(qsizetype sharedString)
     {
-        // A node-based map: references stay valid while nested groups add types.
-        if (const auto known = m_types.find(sharedString); known != m_types.end())
-            return known->second;
+        // Indexed by shared string, each parsed once; the types live on the
+        // heap, so references stay valid while nested groups add more.
+        if (m_types.size() <= std::size_t(sharedString))
+            m_types.resize(std::size_t(sharedString) + 1);
+        std::unique_ptr<std::vector<Type>> &known = m_types[std::size_t(sharedString)];
+        if (known)
+            return *known;
         const QByteArrayView text = m_sharedStrings[sharedString];
         spend(text.size());
         if (text.isEmpty())
             fail(QStringLiteral("an empty type string"));
-        std::vector<Type> types;
+        auto types = std::make_unique<std::vector<Type>>();
         for (qsizetype pos = 0; pos < text.size();)
-            types.push_back(parseType(text, pos, 0));
-        return m_types.emplace(sharedString, std::move(types)).first->second;
+            types->push_back(parseType(text, pos, 0));
+        known = std::move(types);
+        return *known;
     }
 
     Type parseType(QByteArrayView text, qsizetype &pos, int nesting)
@@ -344,10 +354,10 @@ private:
     void readGroup(std::vector<TypedStreamValue> &values)
     {
         spend(1);
-        const auto typeString = readSharedString();
-        if (!typeString)
+        const qsizetype typeString = readSharedString();
+        if (typeString == NilString)
             fail(QStringLiteral("a group without a type string"));
-        for (const Type &type : typesOf(*typeString))
+        for (const Type &type : typesOf(typeString))
             readValue(type, values);
     }
 
@@ -410,8 +420,8 @@ private:
             return;
         case '%':
         case ':':
-            if (const auto shared = readSharedString())
-                pushText(m_sharedStrings[*shared]);
+            if (const qsizetype shared = readSharedString(); shared != NilString)
+                pushText(m_sharedStrings[shared]);
             else
                 pushText(std::nullopt);
             return;
@@ -453,7 +463,7 @@ private:
         if (head == NewTag)
             readNewObject();
         else
-            index = readLabel(head, index, QStringLiteral("object"));
+            index = readLabel(head, index, "object");
         const auto *entry = std::get_if<ObjectEntry>(&m_objectTable[index]);
         if (!entry)
             fail(QStringLiteral("an object label refers to a class or C string"));
@@ -470,8 +480,7 @@ private:
         const Nested nested(*this);
         // The object takes its table index before its classes take theirs.
         const qsizetype index = qsizetype(m_objectTable.size());
-        TypedStreamObject *object =
-            m_reader.m_objects.emplace_back(std::make_unique<TypedStreamObject>()).get();
+        TypedStreamObject *object = &m_reader.m_objects.emplace_back();
         m_objectTable.emplace_back(ObjectEntry{object, 0, false});
         m_openObjects.push_back({m_nesting, 0});
 
@@ -479,9 +488,16 @@ private:
         if (cls < 0)
             fail(QStringLiteral("an object without a class"));
         object->classChain = chainOf(cls);
+        // The values gather in a buffer kept for this depth, then move into
+        // the object in one allocation of the right size.
+        if (m_valueBuffers.size() <= std::size_t(m_nesting))
+            m_valueBuffers.resize(std::size_t(m_nesting) + 1);
+        std::vector<TypedStreamValue> &buffer = m_valueBuffers[std::size_t(m_nesting)];
+        buffer.clear();
         while (peekByte() != EndOfObjectTag)
-            readGroup(object->values);
+            readGroup(buffer);
         ++m_pos;
+        object->values = keep(buffer);
 
         const int height = m_openObjects.back().height + 1;
         m_openObjects.pop_back();
@@ -513,13 +529,13 @@ private:
             if (head == NilTag)
                 break;
             if (head != NewTag) {
-                superclass = readLabel(head, chainStart, QStringLiteral("class"));
+                superclass = readLabel(head, chainStart, "class");
                 if (!std::holds_alternative<ClassEntry>(m_objectTable[superclass]))
                     fail(QStringLiteral("a class label refers to an object or C string"));
                 break;
             }
-            const auto name = readSharedString();
-            if (!name)
+            const qsizetype name = readSharedString();
+            if (name == NilString)
                 fail(QStringLiteral("a class without a name"));
             const qint64 version = readInteger();
             if (version < std::numeric_limits<int>::min()
@@ -527,8 +543,8 @@ private:
                 fail(QStringLiteral("class version %1 out of range").arg(version));
             if (qsizetype(m_objectTable.size()) - chainStart >= MaxClassChain)
                 fail(QStringLiteral("a class chain longer than %1").arg(MaxClassChain));
-            const TypedStreamClass cls{m_sharedStrings[*name], int(version)};
-            m_reader.m_classVersions.insert(cls.name, cls.version);
+            const TypedStreamClass cls{m_sharedStrings[name], int(version)};
+            recordVersion(cls);
             m_objectTable.emplace_back(ClassEntry{cls, -1, 1, {}});
         }
 
@@ -545,6 +561,35 @@ private:
             entry.depth = int(chainEnd - i) + inherited;
         }
         return chainEnd > chainStart ? chainStart : superclass;
+    }
+
+    // Moves the values into the reader's blocks and answers where they are.
+    std::span<const TypedStreamValue> keep(std::vector<TypedStreamValue> &values)
+    {
+        constexpr std::size_t BlockSize = 4096;
+        if (values.empty())
+            return {};
+        auto &blocks = m_reader.m_valueBlocks;
+        if (blocks.empty() || blocks.back().capacity() - blocks.back().size() < values.size()) {
+            blocks.emplace_back().reserve(std::max(BlockSize, values.size()));
+        }
+        std::vector<TypedStreamValue> &block = blocks.back();
+        const std::size_t start = block.size();
+        block.insert(block.end(), std::make_move_iterator(values.begin()),
+                     std::make_move_iterator(values.end()));
+        return {block.data() + start, values.size()};
+    }
+
+    // The version the latest record of a class name gave it.
+    void recordVersion(const TypedStreamClass &cls)
+    {
+        auto &known = m_reader.m_classVersions;
+        const auto same = std::find_if(known.begin(), known.end(),
+                                       [&](const TypedStreamClass &k) { return k.name == cls.name; });
+        if (same != known.end())
+            same->version = cls.version;
+        else
+            known.push_back(cls);
     }
 
     TypedStreamClassChain chainOf(qsizetype classIndex)
@@ -568,9 +613,12 @@ private:
     qint64 m_work;
     int m_nesting = 0;
     std::vector<QByteArray> m_sharedStrings;
-    std::unordered_map<qsizetype, std::vector<Type>> m_types;  // parsed type strings
+    std::vector<std::unique_ptr<std::vector<Type>>> m_types;  // parsed type strings
     std::vector<Entry> m_objectTable;
     std::vector<OpenObject> m_openObjects;
+    // One per nesting level; a deque, so that a deeper level added while an
+    // outer object is being read leaves the outer buffer where it is.
+    std::deque<std::vector<TypedStreamValue>> m_valueBuffers;
 };
 
 TypedStreamReader::TypedStreamReader(QByteArrayView data)
@@ -578,6 +626,7 @@ TypedStreamReader::TypedStreamReader(QByteArrayView data)
     m_errorString = Parser(*this, data).run();
     if (!m_errorString.isEmpty()) {
         m_objects.clear();
+        m_valueBlocks.clear();
         m_topLevelValues.clear();
         m_classVersions.clear();
     }
@@ -597,8 +646,9 @@ const TypedStreamObject *TypedStreamReader::rootObject() const
 
 std::optional<int> TypedStreamReader::versionForClassName(QByteArrayView className) const
 {
-    const auto found = m_classVersions.constFind(className.toByteArray());
-    if (found == m_classVersions.cend())
-        return std::nullopt;
-    return *found;
+    for (const TypedStreamClass &known : m_classVersions) {
+        if (known.name == className)
+            return known.version;
+    }
+    return std::nullopt;
 }

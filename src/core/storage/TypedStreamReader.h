@@ -1,16 +1,15 @@
 #pragma once
 
+#include "storage/TypedStreamObject.h"
 #include "storage/TypedStreamValue.h"
 
 #include <QByteArrayView>
-#include <QHash>
 #include <QString>
 
-#include <memory>
+#include <deque>
 #include <optional>
 #include <vector>
 
-struct TypedStreamObject;
 
 // Decodes a whole archive of the Mac's sequential archiver, in either byte
 // order, into a tree of objects and values; the stream describes itself, so
@@ -53,9 +52,16 @@ public:
 private:
     class Parser;
 
-    std::vector<std::unique_ptr<TypedStreamObject>> m_objects;
+    // A deque keeps every object where it was made while more are added, and
+    // allocates them in blocks rather than one by one.
+    std::deque<TypedStreamObject> m_objects;
+    // The objects' values, in blocks that never grow past their first
+    // capacity, so that every object's span stays where it points.
+    std::vector<std::vector<TypedStreamValue>> m_valueBlocks;
     std::vector<TypedStreamValue> m_topLevelValues;
-    QHash<QByteArray, int> m_classVersions;
+    // Few classes appear in any archive: a short list searched without
+    // allocating beats a hash keyed by copies of the name.
+    std::vector<TypedStreamClass> m_classVersions;
     QString m_errorString;
     bool m_bigEndian = false;
     qint64 m_systemVersion = 0;

@@ -14,10 +14,11 @@ class QString;
 // for byte as the Mac would, little-endian.
 //
 // archiveRootObject() writes the header and the root object; every other call
-// belongs inside the encode function of an object and writes one group, just
-// as one coder call of the object's encodeWithCoder: did. The grouping is part
-// of the bytes (two "i" groups differ from one "ii" group) and the Mac checks
-// it when reading, so an encoder makes one call per coder call of the original.
+// belongs inside the encode function of an object and writes one group, as
+// one coder call of a class's encodeWithCoder: does on the Mac. The grouping is
+// part of the bytes (two "i" groups differ from one "ii" group) and the Mac
+// checks it when reading, so an encoder makes one call per group the class's
+// archive form has.
 //
 // Objects are identified by an opaque key, normally their address: an object
 // written a second time becomes a reference to the first copy, and a null key
