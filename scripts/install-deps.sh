@@ -12,6 +12,7 @@ packages=(
   qt6-base-dev
   qt6-base-dev-tools
   libbenchmark-dev
+  libplist-dev
 )
 
 missing=()

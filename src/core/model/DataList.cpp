@@ -185,10 +185,15 @@ void DataList::sortList(PaymentArray &records, QStringView key, bool ascending)
         entries.push_back(sortEntry(*records.at(i), k, i));
     // Equal records keep their order: the earlier position breaks the last tie.
     const int factor = ascending ? -1 : 1;
-    std::sort(entries.begin(), entries.end(), [k, factor](const SortEntry &a, const SortEntry &b) {
+    const auto before = [k, factor](const SortEntry &a, const SortEntry &b) {
         const int order = factor * compareEntries(a, b, k);
         return order != 0 ? order < 0 : a.index < b.index;
-    });
+    };
+    // A month read from its file, or after one edit, is mostly in order
+    // already; finding that out is cheaper than rebuilding the array.
+    if (std::is_sorted(entries.begin(), entries.end(), before))
+        return;
+    std::sort(entries.begin(), entries.end(), before);
     PaymentArray sorted;
     sorted.reserve(records.size());
     for (const SortEntry &entry : entries)

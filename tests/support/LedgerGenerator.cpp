@@ -1,6 +1,14 @@
 #include "LedgerGenerator.h"
 
+#include "ledger/DataFolder.h"
+#include "model/MonthDataList.h"
+#include "storage/ColorArchive.h"
+#include "storage/ListFile.h"
+#include "storage/MonthFile.h"
+
 #include <QDate>
+#include <QDir>
+#include <QSaveFile>
 
 #include <array>
 
@@ -77,4 +85,43 @@ PaymentArray LedgerGenerator::monthRecords(int year, int month, int count)
         add(day(m_random), s.category, QString::fromLatin1(s.details), amount, payway(m_random));
     }
     return records;
+}
+
+namespace {
+QVariantList variants(const QStringList &names)
+{
+    QVariantList list;
+    for (const QString &name : names)
+        list.append(name);
+    return list;
+}
+} // namespace
+
+bool LedgerGenerator::writeDataFolder(const QString &folder, int firstYear, int years, int perMonth)
+{
+    if (!QDir().mkpath(folder))
+        return false;
+    const QStringList categories = categoryNames();
+    QVariantList colors;
+    for (const QByteArray &color : ColorArchive::initialColors(int(categories.size())))
+        colors.append(color);
+    bool ok = ListFile::setPreferenceDataListForKey(folder, variants(categories), ListFile::CategoryList)
+        && ListFile::setPreferenceDataListForKey(folder, colors, ListFile::ColorList)
+        && ListFile::setPreferenceDataListForKey(folder, variants(paywayNames()), ListFile::PaywayList);
+
+    std::bernoulli_distribution withMemo(0.25);
+    for (int year = firstYear; ok && year < firstYear + years; ++year) {
+        for (int month = 1; ok && month <= 12; ++month) {
+            MonthDataList list(year, month);
+            PaymentArray records = monthRecords(year, month, perMonth);
+            DataList::sortList(records, u"Date");
+            list.setDataListArray(records);
+            if (withMemo(m_random))
+                list.setSummary(QStringLiteral("Car inspection due.\nRemember the gas bill."));
+            QSaveFile file(DataFolder::filePathForYear(folder, year, month));
+            ok = file.open(QIODevice::WriteOnly) && file.write(MonthFile::encode(list)) >= 0
+                && file.commit();
+        }
+    }
+    return ok;
 }

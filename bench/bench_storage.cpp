@@ -1,0 +1,122 @@
+// The month store: one month read and written, and thirty years of 400
+// entries a month loaded and rewritten, as the program does at start-up and
+// in maintenance.
+#include "LedgerGenerator.h"
+
+#include "ledger/DataFolder.h"
+#include "ledger/KController.h"
+#include "model/MonthDataList.h"
+#include "settings/Settings.h"
+#include "storage/MonthFile.h"
+#include "storage/TypedStreamReader.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+#include <malloc.h>
+
+namespace {
+
+constexpr int kFirstYear = 1996;
+constexpr int kYears = 30;
+constexpr int kPerMonth = 400;
+
+// The 30-year folder, written once for all benchmarks of this run.
+QString thirtyYearFolder()
+{
+    static QTemporaryDir dir;
+    static const bool written =
+        LedgerGenerator().writeDataFolder(dir.path(), kFirstYear, kYears, kPerMonth);
+    if (!written)
+        qFatal("could not write the benchmark folder");
+    return dir.path();
+}
+
+// Bytes the allocator has handed out and not taken back.
+std::size_t heapInUse()
+{
+    return mallinfo2().uordblks;
+}
+
+void BM_ReadOneMonth(benchmark::State &state)
+{
+    const QString path = DataFolder::filePathForYear(thirtyYearFolder(), 2006, 5);
+    for (auto _ : state) {
+        QFile file(path);
+        file.open(QIODevice::ReadOnly);
+        auto list = MonthFile::decode(file.readAll(), nullptr);
+        benchmark::DoNotOptimize(list.get());
+    }
+}
+BENCHMARK(BM_ReadOneMonth)->Unit(benchmark::kMicrosecond);
+
+// The archive format alone: the generic tree of one month, before any record
+// is made from it.
+void BM_ParseOneMonth(benchmark::State &state)
+{
+    QFile file(DataFolder::filePathForYear(thirtyYearFolder(), 2006, 5));
+    file.open(QIODevice::ReadOnly);
+    const QByteArray data = file.readAll();
+    for (auto _ : state) {
+        const TypedStreamReader reader(data);
+        benchmark::DoNotOptimize(reader.rootObject());
+    }
+}
+BENCHMARK(BM_ParseOneMonth)->Unit(benchmark::kMicrosecond);
+
+void BM_WriteOneMonth(benchmark::State &state)
+{
+    QTemporaryDir dir;
+    Settings().setDataPath(dir.path());
+    KController controller;
+    const auto list = controller.monthListForYear(2006, 5);
+    list->setDataListArray(LedgerGenerator().monthRecords(2006, 5, kPerMonth));
+    list->dataHasChanged();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(controller.writeDataListToFile(list.get()));
+}
+BENCHMARK(BM_WriteOneMonth)->Unit(benchmark::kMicrosecond);
+
+void BM_ReadAllDataThirtyYears(benchmark::State &state)
+{
+    Settings().setDataPath(thirtyYearFolder());
+    std::size_t held = 0;
+    for (auto _ : state) {
+        const std::size_t before = heapInUse();
+        KController controller;
+        controller.readAllData();
+        held = heapInUse() - before;
+        state.PauseTiming(); // letting go of the cache is not part of loading
+        controller.releaseAllDataWithSave(false);
+        state.ResumeTiming();
+    }
+    state.counters["entries"] = kYears * 12 * kPerMonth;
+    state.counters["heap_MB"] = double(held) / (1024.0 * 1024.0);
+}
+BENCHMARK(BM_ReadAllDataThirtyYears)->Unit(benchmark::kMillisecond);
+
+void BM_ResaveAllDataFileThirtyYears(benchmark::State &state)
+{
+    Settings().setDataPath(thirtyYearFolder());
+    for (auto _ : state) {
+        KController controller;
+        controller.resaveAllDataFile();
+    }
+}
+BENCHMARK(BM_ResaveAllDataFileThirtyYears)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication app(argc, argv); // the store's save timer needs one
+    QStandardPaths::setTestModeEnabled(true);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -1,0 +1,258 @@
+#include "ledger/KController.h"
+
+#include "ledger/DataFolder.h"
+#include "model/MonthDataList.h"
+#include "model/Notifications.h"
+#include "model/YearDataList.h"
+#include "storage/ListFile.h"
+#include "storage/MonthFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QtDebug>
+
+namespace {
+constexpr int kSaveDelayMs = 1000;
+
+int cacheKey(int year, int month)
+{
+    return year * 100 + month;
+}
+} // namespace
+
+KController::KController(QObject *parent)
+    : QObject(parent)
+{
+    m_saveTimer.setSingleShot(true);
+    m_saveTimer.setInterval(kSaveDelayMs);
+    connect(&m_saveTimer, &QTimer::timeout, this, &KController::saveAllEditedData);
+    connect(Notifications::instance(), &Notifications::dataListHasChanged, this,
+            &KController::scheduleSave);
+    LedgerController::install(this);
+}
+
+KController::~KController()
+{
+    if (LedgerController::installed() == this)
+        LedgerController::install(nullptr);
+}
+
+QString KController::dataFolderPath()
+{
+    if (m_dataFolder.isEmpty())
+        m_dataFolder = DataFolder::dataFolderPath();
+    return m_dataFolder;
+}
+
+QString KController::filePathForYear(int year, int month)
+{
+    return DataFolder::filePathForYear(dataFolderPath(), year, month);
+}
+
+std::shared_ptr<DataList> KController::listForYear(int year, int month)
+{
+    // Taken as unsigned, so negative months are refused too.
+    if (unsigned(month) > 12) {
+        qWarning("month:%d is not available!!", month);
+        return nullptr;
+    }
+    const int key = cacheKey(year, month);
+    if (const auto cached = m_listStock.constFind(key); cached != m_listStock.cend())
+        return cached.value();
+    std::shared_ptr<DataList> list = readDataListOfYear(year, month);
+    if (!list)
+        return nullptr;
+    m_listStock.insert(key, list);
+    // Records of other months leave a freshly read month only once it is in
+    // the cache: two files that hand records to each other then meet the
+    // cached lists instead of reading each other without end.
+    if (month != 0)
+        settleLoadedList(static_cast<MonthDataList *>(list.get()));
+    return list;
+}
+
+std::shared_ptr<MonthDataList> KController::monthListForYear(int year, int month)
+{
+    if (month == 0)
+        return nullptr;
+    return std::static_pointer_cast<MonthDataList>(listForYear(year, month));
+}
+
+std::shared_ptr<DataList> KController::readDataListOfYear(int year, int month)
+{
+    if (month == 0) {
+        QList<const DataList *> months;
+        for (int m = 1; m <= 12; ++m)
+            months.append(listForYear(year, m).get()); // held by the cache
+        return std::make_shared<YearDataList>(year, months);
+    }
+    if (month < 1 || month > 12)
+        return nullptr;
+    return readMonthFile(year, month);
+}
+
+std::shared_ptr<MonthDataList> KController::readMonthFile(int year, int month)
+{
+    const QString path = filePathForYear(year, month);
+    QFile file(path);
+    if (!file.exists())
+        return std::make_shared<MonthDataList>(year, month);
+
+    QString reason;
+    std::shared_ptr<MonthDataList> list;
+    if (file.open(QIODevice::ReadOnly))
+        list = MonthFile::decode(file.readAll(), &reason);
+    else
+        reason = file.errorString();
+    if (list && (list->year() != year || list->month() != month)) {
+        reason = tr("the file holds %1/%2 instead").arg(list->year()).arg(list->month());
+        list.reset();
+    }
+    if (!list) {
+        // Never overwrite what we could not read: the month stays empty and
+        // read-only until the file is mended.
+        list = std::make_shared<MonthDataList>(year, month);
+        list->setReadOnly(true);
+        emit monthFileUnreadable(path, reason);
+    }
+    return list;
+}
+
+void KController::settleLoadedList(MonthDataList *list)
+{
+    list->checkDateOfDataArray(list->dataListArray());
+    // Moving records out does not make the month differ from its file yet:
+    // the file keeps them until the month is written again.
+    list->setIsEdited(false);
+}
+
+std::shared_ptr<DataList> KController::readDataFromPath(const QString &path)
+{
+    const auto yearMonth = DataFolder::yearMonthFromPath(path);
+    if (!yearMonth)
+        return nullptr;
+    return listForYear(yearMonth->year, yearMonth->month);
+}
+
+bool KController::writeDataListToFile(MonthDataList *list)
+{
+    if (!list)
+        return false;
+    const QString path = filePathForYear(list->year(), list->month());
+    if (list->isReadOnly()) {
+        emit monthFileNotWritten(
+            path, tr("The file could not be read, so it is left as it is. Changes to this month "
+                     "are not saved."));
+        return false;
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        emit monthFileNotWritten(path, file.errorString());
+        return false;
+    }
+    file.write(MonthFile::encode(*list));
+    if (!file.commit()) {
+        emit monthFileNotWritten(path, file.errorString());
+        return false;
+    }
+    list->setIsEdited(false);
+    return true;
+}
+
+void KController::readAllData()
+{
+    const QDir folder(dataFolderPath());
+    const QStringList entries = folder.entryList(QDir::Files | QDir::Hidden);
+    for (const QString &entry : entries)
+        readDataFromPath(folder.filePath(entry));
+}
+
+void KController::saveAllEditedData()
+{
+    m_saveTimer.stop();
+    emit aboutToSaveAllEditedData();
+    // A write reports nothing to the cache, but copy it anyway: a window
+    // reacting to a failure may ask for another month.
+    const auto lists = m_listStock;
+    for (const std::shared_ptr<DataList> &list : lists) {
+        if (!list->isEdited())
+            continue;
+        if (auto *month = dynamic_cast<MonthDataList *>(list.get()))
+            writeDataListToFile(month);
+    }
+}
+
+void KController::resaveAllDataFile()
+{
+    readAllData();
+    const auto lists = m_listStock;
+    for (const std::shared_ptr<DataList> &list : lists) {
+        if (auto *month = dynamic_cast<MonthDataList *>(list.get()))
+            writeDataListToFile(month);
+    }
+}
+
+void KController::releaseAllDataWithSave(bool save)
+{
+    if (save)
+        saveAllEditedData();
+    m_saveTimer.stop();
+    m_listStock.clear();
+    m_dataFolder.clear();
+}
+
+QMap<int, PaymentArray> KController::assortDataArray(const PaymentArray &records)
+{
+    QMap<int, PaymentArray> groups;
+    for (const PaymentDataPtr &record : records)
+        groups[cacheKey(record->year(), record->month())].append(record);
+    return groups;
+}
+
+void KController::editData(const PaymentArray &records)
+{
+    const auto groups = assortDataArray(records);
+    for (const PaymentArray &group : groups) {
+        const PaymentDataPtr &first = group.constFirst();
+        if (auto list = monthListForYear(first->year(), first->month()))
+            list->dataHasChangedAndNotify();
+    }
+}
+
+void KController::moveData(const PaymentDataPtr &record, MonthDataList *fromList)
+{
+    const auto target = monthListForYear(record->year(), record->month());
+    if (!target || target.get() == fromList)
+        return;
+    if (target->isReadOnly()) {
+        // The record stays in the month it came from, and in that month's
+        // file, rather than go where it could never be saved.
+        emit monthFileNotWritten(filePathForYear(target->year(), target->month()),
+                                 tr("The file of this month could not be read, so no entry "
+                                    "can be moved into it."));
+        return;
+    }
+    target->addData({record});
+    fromList->deleteData({record});
+}
+
+void KController::readListPreference()
+{
+    const auto names = [this](QLatin1StringView key) {
+        QStringList list;
+        const QVariantList values = ListFile::preferenceDataListForKey(dataFolderPath(), key);
+        for (const QVariant &value : values)
+            list.append(value.toString());
+        return list;
+    };
+    m_categoryList = names(ListFile::CategoryList);
+    m_paywayList = names(ListFile::PaywayList);
+}
+
+void KController::scheduleSave(DataList *list)
+{
+    if (list && list->isEdited())
+        m_saveTimer.start();
+}

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "model/LedgerController.h"
+
+#include <QHash>
+#include <QMap>
+#include <QObject>
+#include <QTimer>
+
+class MonthDataList;
+
+// The application controller's data half: the month store with its cache of
+// loaded lists, the routing of changed records to their months, and the
+// current category and payway names. It exists once, installed as the
+// controller every record reports to; windows ask it for the list of a month
+// and never touch a file themselves.
+//
+// Files are written atomically. A month whose file cannot be read is answered
+// as an empty list that is never written back, so the file stays as it was; a
+// write that fails leaves its month edited. Both are reported by signal.
+class KController : public QObject, public LedgerController
+{
+    Q_OBJECT
+
+public:
+    explicit KController(QObject *parent = nullptr);
+    ~KController() override;
+
+    // The data folder of the settings; read once and kept until the cache is
+    // released (which is how a change of folder takes effect).
+    QString dataFolderPath();
+    QString filePathForYear(int year, int month);
+
+    // The cached list of a month (loaded on first use), the year list for
+    // month 0, nothing for an impossible month.
+    std::shared_ptr<DataList> listForYear(int year, int month) override;
+    std::shared_ptr<MonthDataList> monthListForYear(int year, int month);
+    // The loader behind the cache: a year list, the month read from its file,
+    // or a new empty month when there is no file.
+    std::shared_ptr<DataList> readDataListOfYear(int year, int month);
+    // The data folder's own list of the month a file name stands for.
+    std::shared_ptr<DataList> readDataFromPath(const QString &path);
+    // Archives the list into its month file. False when it could not be
+    // written; the list then stays edited.
+    bool writeDataListToFile(MonthDataList *list);
+    // Loads every month file of the data folder.
+    void readAllData();
+    // Writes every edited month of the cache.
+    void saveAllEditedData();
+    // Loads every month and writes each one again, edited or not.
+    void resaveAllDataFile();
+    // Optionally saves, then forgets every loaded list and the folder.
+    void releaseAllDataWithSave(bool save);
+
+    // The records grouped by year * 100 + month, each group in the given order.
+    static QMap<int, PaymentArray> assortDataArray(const PaymentArray &records);
+    void editData(const PaymentArray &records) override;
+    void moveData(const PaymentDataPtr &record, MonthDataList *fromList) override;
+    // Reloads the category and payway names from the data folder's list file
+    // (made with the initial lists when the folder has none).
+    void readListPreference();
+    QStringList categoryList() const override { return m_categoryList; }
+    QStringList paywayList() const override { return m_paywayList; }
+
+signals:
+    // Emitted before the edited months are written, so that a window can hand
+    // over what it still holds (a memo being typed).
+    void aboutToSaveAllEditedData();
+    // A month file could not be read or decoded; its month is read-only.
+    void monthFileUnreadable(const QString &path, const QString &reason);
+    // A month file could not be written; its month stays edited.
+    void monthFileNotWritten(const QString &path, const QString &reason);
+
+private:
+    std::shared_ptr<MonthDataList> readMonthFile(int year, int month);
+    void settleLoadedList(MonthDataList *list);
+    void scheduleSave(DataList *list);
+
+    // year * 100 + month to list; month 0 holds the year list.
+    QHash<int, std::shared_ptr<DataList>> m_listStock;
+    QString m_dataFolder;
+    QStringList m_categoryList;
+    QStringList m_paywayList;
+    // Edited months reach the disk about a second after the last change, not
+    // only at quit.
+    QTimer m_saveTimer;
+};

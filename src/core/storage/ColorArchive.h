@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+// A colour as the lists keep it, components 0..1.
+struct RgbaColor
+{
+    float red = 0;
+    float green = 0;
+    float blue = 0;
+    float alpha = 1;
+
+    friend bool operator==(const RgbaColor &, const RgbaColor &) = default;
+};
+
+// The colours of the list file are archives of one colour object each, in the
+// same archive format as the month files.
+namespace ColorArchive {
+
+// A calibrated-RGB colour.
+QByteArray encode(const RgbaColor &color);
+// A calibrated-white (gray) colour.
+QByteArray encodeWhite(float white, float alpha = 1);
+
+// Any colour archive we can make sense of: RGB and white spaces, calibrated
+// or device, CMYK, and named colours by the value they carry.
+std::optional<RgbaColor> decode(const QByteArray &archive, QString *error = nullptr);
+
+// The initial colour of each of `count` categories: blue, purple, yellow,
+// red, orange, green, brown and round again, with the last (income) gray.
+QList<QByteArray> initialColors(int count);
+
+} // namespace ColorArchive

@@ -1,0 +1,380 @@
+#include "TestDataFolder.h"
+
+#include "ledger/DataFolder.h"
+#include "ledger/KController.h"
+#include "model/MonthDataList.h"
+#include "model/YearDataList.h"
+#include "settings/Settings.h"
+#include "storage/MonthFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+PaymentDataPtr record(int year, int month, int date, const QString &details, float amount = 100,
+                      int category = 0)
+{
+    return std::make_shared<PaymentData>(year, month, date, category, details, amount, 0);
+}
+
+QByteArray readBytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeBytes(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+// A month file as another program (or an older version of this one) left it.
+void writeMonthFile(const QString &folder, int year, int month, const PaymentArray &records,
+                    const QString &summary = {})
+{
+    MonthDataList list(year, month);
+    list.setDataListArray(records);
+    list.setSummary(summary);
+    writeBytes(DataFolder::filePathForYear(folder, year, month), MonthFile::encode(list));
+}
+
+QStringList detailsOf(const PaymentArray &records)
+{
+    QStringList texts;
+    for (const PaymentDataPtr &r : records)
+        texts.append(r->details());
+    return texts;
+}
+
+} // namespace
+
+class TestKController : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void dataFolderFollowsTheSetting();
+    void monthFileNamesParse_data();
+    void monthFileNamesParse();
+    void listsAreCachedAndReadOnce();
+    void impossibleMonthsAreRefused();
+    void yearListGathersTheCachedMonths();
+    void recordsOfAnotherMonthMoveOnLoad();
+    void openingAPathSelectsTheDataFolderMonth();
+    void readAllDataLoadsEveryMonthFile();
+    void savingWritesEditedMonthsOnly();
+    void resaveWritesEveryMonth();
+    void releaseSavesAndForgets();
+    void failedWriteKeepsTheMonthEdited();
+    void unreadableFileIsNeverOverwritten();
+    void editsReachTheDiskShortlyAfter();
+    void namesComeFromTheListFile();
+
+private:
+    TestDataFolder m_home;
+    QString m_folder;
+};
+
+void TestKController::init()
+{
+    m_folder = m_home.freshDataFolder();
+}
+
+void TestKController::dataFolderFollowsTheSetting()
+{
+    KController controller;
+    QCOMPARE(controller.dataFolderPath(), m_folder);
+
+    // Without a chosen folder, the one in Documents is made and used.
+    Settings().setDataPath(QString());
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QVERIFY(documents.startsWith(m_home.home()));
+    const QString expected = QDir(documents).filePath(u"PenwickData"_s);
+    QCOMPARE(DataFolder::dataFolderPath(), expected);
+    QVERIFY(QFileInfo(expected).isDir());
+
+    // The controller keeps its folder until the cache is released.
+    QCOMPARE(controller.dataFolderPath(), m_folder);
+    controller.releaseAllDataWithSave(false);
+    QCOMPARE(controller.dataFolderPath(), expected);
+    QCOMPARE(controller.filePathForYear(2006, 5), expected + u"/Data_2006_5.Penwick"_s);
+}
+
+void TestKController::monthFileNamesParse_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<int>("year"); // 0: not a month file
+    QTest::addColumn<int>("month");
+    QTest::newRow("one-digit month") << u"/x/Data_2006_5.Penwick"_s << 2006 << 5;
+    QTest::newRow("two-digit month") << u"Data_2006_11.Penwick"_s << 2006 << 11;
+    QTest::newRow("padded month") << u"Data_2006_05.Penwick"_s << 2006 << 5;
+    QTest::newRow("any extension") << u"Data_1999_12.txt"_s << 1999 << 12;
+    QTest::newRow("list file") << u"/x/Data.penwick"_s << 0 << 0;
+    QTest::newRow("month 13") << u"Data_2006_13.Penwick"_s << 0 << 0;
+    QTest::newRow("month 0") << u"Data_2006_0.Penwick"_s << 0 << 0;
+    QTest::newRow("trailing text") << u"Data_2006_5 copy.Penwick"_s << 0 << 0;
+    QTest::newRow("no month") << u"Data_2006.Penwick"_s << 0 << 0;
+}
+
+void TestKController::monthFileNamesParse()
+{
+    QFETCH(QString, path);
+    QFETCH(int, year);
+    QFETCH(int, month);
+    const auto parsed = DataFolder::yearMonthFromPath(path);
+    QCOMPARE(parsed.has_value(), year != 0);
+    if (parsed) {
+        QCOMPARE(parsed->year, year);
+        QCOMPARE(parsed->month, month);
+    }
+}
+
+void TestKController::listsAreCachedAndReadOnce()
+{
+    writeMonthFile(m_folder, 2006, 5, {record(2006, 5, 3, u"Lunch"_s)}, u"memo"_s);
+    KController controller;
+    const auto first = controller.listForYear(2006, 5);
+    QVERIFY(first);
+    QCOMPARE(detailsOf(first->dataListArray()), QStringList{u"Lunch"_s});
+    QCOMPARE(static_cast<MonthDataList *>(first.get())->summary(), u"memo"_s);
+    QVERIFY(!first->isEdited());
+
+    // A later change of the file is not seen: the month was read once.
+    writeMonthFile(m_folder, 2006, 5, {});
+    QCOMPARE(controller.listForYear(2006, 5), first);
+    QCOMPARE(first->dataListArray().size(), 1);
+
+    // A month without a file is empty, and nothing is written for it.
+    const auto empty = controller.listForYear(2006, 6);
+    QVERIFY(empty->dataListArray().isEmpty());
+    QVERIFY(!QFile::exists(controller.filePathForYear(2006, 6)));
+}
+
+void TestKController::impossibleMonthsAreRefused()
+{
+    KController controller;
+    QTest::ignoreMessage(QtWarningMsg, "month:13 is not available!!");
+    QVERIFY(!controller.listForYear(2006, 13));
+    QTest::ignoreMessage(QtWarningMsg, "month:-1 is not available!!");
+    QVERIFY(!controller.listForYear(2006, -1));
+}
+
+void TestKController::yearListGathersTheCachedMonths()
+{
+    writeMonthFile(m_folder, 2006, 1, {record(2006, 1, 9, u"january"_s)});
+    writeMonthFile(m_folder, 2006, 12, {record(2006, 12, 1, u"december"_s, 50, 1)});
+    KController controller;
+    const auto year = controller.listForYear(2006, 0);
+    QVERIFY(dynamic_cast<YearDataList *>(year.get()));
+    QCOMPARE(year->month(), 0);
+    QCOMPARE(detailsOf(year->dataListArray()), (QStringList{u"january"_s, u"december"_s}));
+    QCOMPARE(year->grandTotal(), 150.0f);
+    QCOMPARE(controller.listForYear(2006, 0), year);
+    // The months are in the cache beside the year, with the same records.
+    QCOMPARE(controller.listForYear(2006, 12)->dataListArray().constFirst(),
+             year->dataListArray().constLast());
+}
+
+void TestKController::recordsOfAnotherMonthMoveOnLoad()
+{
+    writeMonthFile(m_folder, 2006, 5,
+                   {record(2006, 5, 1, u"may"_s), record(2006, 6, 2, u"june"_s),
+                    record(2007, 5, 3, u"next year"_s)});
+    // A file of May 2007 that hands a record back to May 2006 must not make
+    // the two months read each other without end.
+    writeMonthFile(m_folder, 2007, 5, {record(2006, 5, 4, u"back"_s), record(2007, 5, 5, u"stays"_s)});
+    const QByteArray mayBytes = readBytes(m_home.filePath(u"Data_2006_5.Penwick"_s));
+
+    KController controller;
+    const auto may = controller.monthListForYear(2006, 5);
+    QCOMPARE(detailsOf(may->dataListArray()), (QStringList{u"may"_s, u"back"_s}));
+    QVERIFY(!may->isEdited()); // the file keeps its records until May is written
+    const auto june = controller.monthListForYear(2006, 6);
+    QCOMPARE(detailsOf(june->dataListArray()), QStringList{u"june"_s});
+    QVERIFY(june->isEdited());
+    QCOMPARE(detailsOf(controller.listForYear(2007, 5)->dataListArray()),
+             (QStringList{u"next year"_s, u"stays"_s}));
+    QCOMPARE(readBytes(m_home.filePath(u"Data_2006_5.Penwick"_s)), mayBytes);
+}
+
+void TestKController::openingAPathSelectsTheDataFolderMonth()
+{
+    writeMonthFile(m_folder, 2006, 11, {record(2006, 11, 1, u"ours"_s)});
+    QTemporaryDir elsewhere;
+    writeMonthFile(elsewhere.path(), 2006, 11, {record(2006, 11, 1, u"theirs"_s)});
+
+    KController controller;
+    const auto list = controller.readDataFromPath(elsewhere.filePath(u"Data_2006_11.Penwick"_s));
+    QVERIFY(list);
+    QCOMPARE(detailsOf(list->dataListArray()), QStringList{u"ours"_s});
+    QVERIFY(!controller.readDataFromPath(elsewhere.filePath(u"Data.penwick"_s)));
+}
+
+void TestKController::readAllDataLoadsEveryMonthFile()
+{
+    writeMonthFile(m_folder, 2005, 2, {record(2005, 2, 1, u"a"_s)});
+    writeMonthFile(m_folder, 2006, 10, {record(2006, 10, 1, u"b"_s)});
+    writeBytes(m_home.filePath(u"Data.penwick"_s), "not a month");
+    writeBytes(m_home.filePath(u"notes.txt"_s), "hello");
+
+    KController controller;
+    QSignalSpy unreadable(&controller, &KController::monthFileUnreadable);
+    controller.readAllData();
+    QCOMPARE(unreadable.size(), 0);
+    // Both months were loaded: deleting the files now changes nothing.
+    QFile::remove(m_home.filePath(u"Data_2005_2.Penwick"_s));
+    QFile::remove(m_home.filePath(u"Data_2006_10.Penwick"_s));
+    QCOMPARE(controller.listForYear(2005, 2)->dataListArray().size(), 1);
+    QCOMPARE(controller.listForYear(2006, 10)->dataListArray().size(), 1);
+}
+
+void TestKController::savingWritesEditedMonthsOnly()
+{
+    writeMonthFile(m_folder, 2006, 4, {record(2006, 4, 1, u"april"_s)});
+    KController controller;
+    const auto april = controller.monthListForYear(2006, 4);
+    const auto may = controller.monthListForYear(2006, 5);
+    QFile::remove(m_home.filePath(u"Data_2006_4.Penwick"_s));
+
+    may->addData({record(2006, 5, 2, u"new"_s)});
+    QVERIFY(may->isEdited());
+    QSignalSpy before(&controller, &KController::aboutToSaveAllEditedData);
+    controller.saveAllEditedData();
+    QCOMPARE(before.size(), 1);
+    QVERIFY(!may->isEdited());
+    QVERIFY(!QFile::exists(m_home.filePath(u"Data_2006_4.Penwick"_s))); // April was clean
+
+    const auto reread = MonthFile::decode(readBytes(m_home.filePath(u"Data_2006_5.Penwick"_s)), nullptr);
+    QVERIFY(reread);
+    QCOMPARE(detailsOf(reread->dataListArray()), QStringList{u"new"_s});
+    Q_UNUSED(april);
+}
+
+void TestKController::resaveWritesEveryMonth()
+{
+    // A clean month written by another program in another (valid) form: its
+    // records in an immutable array object.
+    const QByteArray foreign = QByteArray::fromHex(
+        "040b73747265616d747970656481e8038401408484840d4d6f6e7468446174614c69737402848408446174"
+        "614c697374018484084e534f626a656374008584016981d607960592848484074e53417272617900959601"
+        "928484840b5061796d656e744461746102959681d60796059603960292848484084e53537472696e670195"
+        "84012b054c756e6368868401668120039600868692849b9a046d656d6f8686");
+    const QString path = m_home.filePath(u"Data_2006_5.Penwick"_s);
+    writeBytes(path, foreign);
+
+    KController controller;
+    controller.resaveAllDataFile();
+    const QByteArray bytes = readBytes(path);
+    QVERIFY(bytes != foreign);
+    QVERIFY(bytes.contains("NSMutableArray"));
+    const auto reread = MonthFile::decode(bytes, nullptr);
+    QCOMPARE(detailsOf(reread->dataListArray()), QStringList{u"Lunch"_s});
+    QCOMPARE(reread->summary(), u"memo"_s);
+}
+
+void TestKController::releaseSavesAndForgets()
+{
+    KController controller;
+    const auto may = controller.monthListForYear(2006, 5);
+    may->addData({record(2006, 5, 2, u"kept"_s)});
+    controller.releaseAllDataWithSave(true);
+    const auto again = controller.monthListForYear(2006, 5);
+    QVERIFY(again != may);
+    QCOMPARE(detailsOf(again->dataListArray()), QStringList{u"kept"_s});
+
+    again->addData({record(2006, 5, 3, u"dropped"_s)});
+    controller.releaseAllDataWithSave(false);
+    QCOMPARE(controller.monthListForYear(2006, 5)->dataListArray().size(), 1);
+}
+
+void TestKController::failedWriteKeepsTheMonthEdited()
+{
+    // A data folder inside a plain file cannot be written, even by root.
+    const QString blocker = m_home.filePath(u"blocker"_s);
+    writeBytes(blocker, "x");
+    Settings().setDataPath(blocker + u"/data"_s);
+
+    KController controller;
+    QSignalSpy failed(&controller, &KController::monthFileNotWritten);
+    const auto may = controller.monthListForYear(2006, 5);
+    may->addData({record(2006, 5, 2, u"precious"_s)});
+    QVERIFY(!controller.writeDataListToFile(may.get()));
+    QVERIFY(may->isEdited());
+    QCOMPARE(failed.size(), 1);
+    QCOMPARE(failed.at(0).at(0).toString(), controller.filePathForYear(2006, 5));
+    QVERIFY(!failed.at(0).at(1).toString().isEmpty());
+
+    controller.saveAllEditedData();
+    QVERIFY(may->isEdited());
+    QCOMPARE(failed.size(), 2);
+}
+
+void TestKController::unreadableFileIsNeverOverwritten()
+{
+    const QString path = m_home.filePath(u"Data_2006_5.Penwick"_s);
+    const QByteArray garbage("\x04\x0bstreamtyped\x81\xe8\x03\x84\x01@\x84\x84\x84", 21);
+    writeBytes(path, garbage);
+    writeMonthFile(m_folder, 2006, 6, {record(2006, 6, 1, u"june"_s)});
+
+    KController controller;
+    QSignalSpy unreadable(&controller, &KController::monthFileUnreadable);
+    QSignalSpy notWritten(&controller, &KController::monthFileNotWritten);
+    const auto may = controller.monthListForYear(2006, 5);
+    QVERIFY(may->isReadOnly());
+    QVERIFY(may->dataListArray().isEmpty());
+    QCOMPARE(unreadable.size(), 1);
+    QCOMPARE(unreadable.at(0).at(0).toString(), path);
+
+    // Nothing reaches the file, and the edit is reported, not dropped.
+    may->addData({record(2006, 5, 2, u"lost?"_s)});
+    controller.saveAllEditedData();
+    QCOMPARE(readBytes(path), garbage);
+    QCOMPARE(notWritten.size(), 1);
+
+    // No entry can be moved into that month either.
+    const auto june = controller.monthListForYear(2006, 6);
+    const PaymentDataPtr mover = june->dataListArray().constFirst();
+    mover->setMonth(5);
+    controller.moveData(mover, june.get());
+    QVERIFY(june->dataListArray().contains(mover));
+    QCOMPARE(notWritten.size(), 2);
+
+    // The other months work as usual.
+    QCOMPARE(june->dataListArray().size(), 1);
+    QVERIFY(controller.writeDataListToFile(june.get()));
+}
+
+void TestKController::editsReachTheDiskShortlyAfter()
+{
+    KController controller;
+    const auto may = controller.monthListForYear(2006, 5);
+    may->addData({record(2006, 5, 2, u"soon"_s)});
+    const QString path = controller.filePathForYear(2006, 5);
+    QVERIFY(!QFile::exists(path));
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path), 3000);
+    QVERIFY(!may->isEdited());
+}
+
+void TestKController::namesComeFromTheListFile()
+{
+    KController controller;
+    QVERIFY(controller.categoryList().isEmpty());
+    controller.readListPreference();
+    QCOMPARE(controller.categoryList().constLast(), u"Income"_s);
+    QVERIFY(controller.paywayList().contains(u"Cash"_s));
+    // The income rule of every list follows the controller's names.
+    QCOMPARE(LedgerController::incomeCategoryIndex(), controller.categoryList().size() - 1);
+}
+
+QTEST_GUILESS_MAIN(TestKController)
+#include "tst_kcontroller.moc"

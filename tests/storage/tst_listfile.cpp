@@ -1,0 +1,215 @@
+#include "TestDataFolder.h"
+
+#include "storage/ColorArchive.h"
+#include "storage/ListFile.h"
+#include "storage/PropertyList.h"
+#include "storage/TypedStreamWriter.h"
+
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QByteArray readBytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeBytes(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+RgbaColor colorAt(const QVariantList &colors, qsizetype i)
+{
+    const auto color = ColorArchive::decode(colors.at(i).toByteArray());
+    return color.value_or(RgbaColor{-1, -1, -1, -1});
+}
+
+const RgbaColor kBlue{0, 0, 1, 1};
+const RgbaColor kGray{0.5f, 0.5f, 0.5f, 1};
+
+} // namespace
+
+class TestListFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void firstReadWritesTheInitialLists();
+    void initialColoursCycleWithIncomeGray_data();
+    void initialColoursCycleWithIncomeGray();
+    void namedColoursAreTheMacArchives();
+    void coloursOfEveryKindDecode();
+    void writingOneListKeepsTheOthers();
+    void binaryListFilesRead();
+    void unreadableListFileIsKeptAside();
+
+private:
+    TestDataFolder m_home;
+    QString m_folder;
+};
+
+void TestListFile::init()
+{
+    m_folder = m_home.freshDataFolder();
+}
+
+void TestListFile::firstReadWritesTheInitialLists()
+{
+    const QString path = ListFile::dictionaryPathString(m_folder);
+    QVERIFY(!QFile::exists(path));
+    const QVariantList categories = ListFile::preferenceDataListForKey(m_folder, ListFile::CategoryList);
+    QVERIFY(QFile::exists(path));
+    QVERIFY(categories.size() >= 8);
+    QCOMPARE(categories.constLast().toString(), u"Income"_s);
+    for (const QVariant &name : categories)
+        QVERIFY(!name.toString().isEmpty());
+
+    const QVariantList colors = ListFile::preferenceDataListForKey(m_folder, ListFile::ColorList);
+    QCOMPARE(colors.size(), categories.size());
+    QCOMPARE(colorAt(colors, 0), kBlue);
+    QCOMPARE(colorAt(colors, colors.size() - 1), kGray);
+
+    const QVariantList payways = ListFile::preferenceDataListForKey(m_folder, ListFile::PaywayList);
+    QVERIFY(payways.contains(u"Cash"_s));
+    // The file is the XML form.
+    QVERIFY(readBytes(path).startsWith("<?xml"));
+
+    QVERIFY(ListFile::preferenceDataListForKey(m_folder, QLatin1StringView("NoSuchList")).isEmpty());
+}
+
+void TestListFile::initialColoursCycleWithIncomeGray_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QList<RgbaColor>>("expected");
+    const RgbaColor purple{0.5f, 0, 0.5f, 1}, yellow{1, 1, 0, 1}, red{1, 0, 0, 1},
+        orange{1, 0.5f, 0, 1}, green{0, 1, 0, 1}, brown{0.6f, 0.4f, 0.2f, 1};
+    QTest::newRow("nine categories")
+        << 9 << QList<RgbaColor>{kBlue, purple, yellow, red, orange, green, brown, kBlue, kGray};
+    QTest::newRow("one category") << 1 << QList<RgbaColor>{kGray};
+    QTest::newRow("none") << 0 << QList<RgbaColor>{};
+}
+
+void TestListFile::initialColoursCycleWithIncomeGray()
+{
+    QFETCH(int, count);
+    QFETCH(QList<RgbaColor>, expected);
+    const QList<QByteArray> archives = ColorArchive::initialColors(count);
+    QCOMPARE(archives.size(), expected.size());
+    for (qsizetype i = 0; i < archives.size(); ++i)
+        QCOMPARE(ColorArchive::decode(archives.at(i)).value_or(RgbaColor{}), expected.at(i));
+}
+
+void TestListFile::namedColoursAreTheMacArchives()
+{
+    QCOMPARE(ColorArchive::encode(kBlue).toHex(),
+             QByteArray("040b73747265616d747970656481e803840140848484074e53436f6c6f72008484084e534f62"
+                        "6a6563740085840163018404666666660000010186"));
+    QCOMPARE(ColorArchive::encodeWhite(0.5f).toHex(),
+             QByteArray("040b73747265616d747970656481e803840140848484074e53436f6c6f72008484084e534f62"
+                        "6a65637400858401630384026666830000003f0186"));
+    QCOMPARE(ColorArchive::encodeWhite(0).size(), 55); // black: both components one byte
+}
+
+void TestListFile::coloursOfEveryKindDecode()
+{
+    const auto archive = [](auto encode) {
+        int identity = 0;
+        return TypedStreamWriter::archiveRootObject(&identity, {{"NSColor", 0}, {"NSObject", 0}},
+                                                    encode);
+    };
+    const auto cmyk = archive([](TypedStreamWriter &w) {
+        w.encodeChar(5);
+        w.encodeFloats({0, 1, 1, 0, 1}); // pure red in print colours
+    });
+    QCOMPARE(ColorArchive::decode(cmyk).value_or(RgbaColor{}), (RgbaColor{1, 0, 0, 1}));
+
+    const auto deviceWhite = archive([](TypedStreamWriter &w) {
+        w.encodeChar(4);
+        w.encodeFloats({1, 0.25f});
+    });
+    QCOMPARE(ColorArchive::decode(deviceWhite).value_or(RgbaColor{}), (RgbaColor{1, 1, 1, 0.25f}));
+
+    // A named system colour carries its current value as a nested colour.
+    int nested = 0;
+    const auto named = archive([&nested](TypedStreamWriter &w) {
+        w.encodeChar(6);
+        w.encodeString(u"System"_s);
+        w.encodeString(u"textColor"_s);
+        w.encodeObject(&nested, {{"NSColor", 0}, {"NSObject", 0}}, [](TypedStreamWriter &cw) {
+            cw.encodeChar(3);
+            cw.encodeFloats({0, 1});
+        });
+    });
+    QCOMPARE(ColorArchive::decode(named).value_or(RgbaColor{}), (RgbaColor{0, 0, 0, 1}));
+
+    QString error;
+    const auto unknownKind = archive([](TypedStreamWriter &w) {
+        w.encodeChar(9);
+        w.encodeFloats({1});
+    });
+    QVERIFY(!ColorArchive::decode(unknownKind, &error));
+    QVERIFY(!error.isEmpty());
+    error.clear();
+    QVERIFY(!ColorArchive::decode(QByteArray("junk"), &error));
+    QVERIFY(!error.isEmpty());
+    const auto missing = archive([](TypedStreamWriter &w) { w.encodeChar(1); });
+    QVERIFY(!ColorArchive::decode(missing));
+}
+
+void TestListFile::writingOneListKeepsTheOthers()
+{
+    const QVariantList categories = ListFile::preferenceDataListForKey(m_folder, ListFile::CategoryList);
+    const QVariantList colors = ListFile::preferenceDataListForKey(m_folder, ListFile::ColorList);
+    const QVariantList payways{u"Purse"_s, u"Card ✓"_s};
+    QVERIFY(ListFile::setPreferenceDataListForKey(m_folder, payways, ListFile::PaywayList));
+    QCOMPARE(ListFile::preferenceDataListForKey(m_folder, ListFile::PaywayList), payways);
+    QCOMPARE(ListFile::preferenceDataListForKey(m_folder, ListFile::CategoryList), categories);
+    QCOMPARE(ListFile::preferenceDataListForKey(m_folder, ListFile::ColorList), colors);
+}
+
+void TestListFile::binaryListFilesRead()
+{
+    writeBytes(ListFile::dictionaryPathString(m_folder),
+               QByteArray::fromHex(
+                   "62706c6973743030d30102030407095c43617465676f72794c69737459436f6c6f724c69737"
+                   "45a5061797761794c697374a2050654466f6f6456496e636f6d65a108420102a10a544361736808"
+                   "0f1c26313439404245470000000000000101000000000000000b0000000000000000000000000000004c"));
+    QCOMPARE(ListFile::preferenceDataListForKey(m_folder, ListFile::CategoryList),
+             (QVariantList{u"Food"_s, u"Income"_s}));
+    QCOMPARE(ListFile::preferenceDataListForKey(m_folder, ListFile::ColorList),
+             QVariantList{QByteArray("\x01\x02")});
+    QCOMPARE(ListFile::preferenceDataListForKey(m_folder, ListFile::PaywayList),
+             QVariantList{u"Cash"_s});
+}
+
+void TestListFile::unreadableListFileIsKeptAside()
+{
+    const QString path = ListFile::dictionaryPathString(m_folder);
+    for (const QByteArray &damage : {QByteArray("<?xml version=\"1.0\"?><plist><dict><key>"),
+                                     QByteArray("bplist00\xff\xff\xff", 11), QByteArray()}) {
+        writeBytes(path, damage);
+        QVERIFY(ListFile::preferenceDataListForKey(m_folder, ListFile::CategoryList).isEmpty());
+        QVERIFY(PropertyList::fromData(damage).isNull());
+    }
+    writeBytes(path, "garbage");
+    QVERIFY(ListFile::setPreferenceDataListForKey(m_folder, {u"Cash"_s}, ListFile::PaywayList));
+    QCOMPARE(readBytes(path + u".unreadable"_s), QByteArray("garbage"));
+    QCOMPARE(ListFile::preferenceDataListForKey(m_folder, ListFile::PaywayList), QVariantList{u"Cash"_s});
+
+    // A second damaged file does not replace the first copy.
+    writeBytes(path, "more garbage");
+    QVERIFY(ListFile::setPreferenceDataListForKey(m_folder, {u"Card"_s}, ListFile::PaywayList));
+    QCOMPARE(readBytes(path + u".unreadable"_s), QByteArray("garbage"));
+    QCOMPARE(readBytes(path + u".unreadable-2"_s), QByteArray("more garbage"));
+}
+
+QTEST_GUILESS_MAIN(TestListFile)
+#include "tst_listfile.moc"
