@@ -91,8 +91,12 @@ private:
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    const TypedStreamReader reader(QByteArrayView(data, qsizetype(size)));
+    const QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(data),
+                                                     qsizetype(size));
+    const TypedStreamReader reader(bytes);
     if (reader.isValid())
         Visitor(reader).run();
+    (void)MonthFile::decode(bytes, nullptr);
+    (void)ColorArchive::decode(bytes);
     return 0;
 }

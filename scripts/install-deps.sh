@@ -11,8 +11,17 @@ packages=(
   pkg-config
   qt6-base-dev
   qt6-base-dev-tools
+  qt6-tools-dev
+  qt6-tools-dev-tools
+  qt6-l10n-tools
+  qt6-translations-l10n
+  libcrypt-dev
   libbenchmark-dev
   libplist-dev
+  desktop-file-utils
+  shared-mime-info
+  xvfb
+  xauth
 )
 
 missing=()

@@ -2,7 +2,9 @@
 
 #include "ledger/DataFolder.h"
 #include "ledger/KController.h"
+#include "model/ModifMonthList.h"
 #include "model/MonthDataList.h"
+#include "model/Notifications.h"
 #include "model/YearDataList.h"
 #include "settings/Settings.h"
 #include "storage/MonthFile.h"
@@ -79,6 +81,14 @@ private slots:
     void unreadableFileIsNeverOverwritten();
     void editsReachTheDiskShortlyAfter();
     void namesComeFromTheListFile();
+    void addingGroupsByMonthAndWritesAtOnce();
+    void deletingAndMovingWaitForTheNextSave();
+    void editsAddressTheRecordsCurrentMonth();
+    void conversionRenumbersEveryMonthFile();
+    void firstStartSettlesFolderAndLists();
+    void closingDayMonths_data();
+    void closingDayMonths();
+    void closingDayMonthFollowsItsCalendarMonths();
 
 private:
     TestDataFolder m_home;
@@ -374,6 +384,187 @@ void TestKController::namesComeFromTheListFile()
     QVERIFY(controller.paywayList().contains(u"Cash"_s));
     // The income rule of every list follows the controller's names.
     QCOMPARE(LedgerController::incomeCategoryIndex(), controller.categoryList().size() - 1);
+}
+
+void TestKController::addingGroupsByMonthAndWritesAtOnce()
+{
+    KController controller;
+    const auto may = record(2006, 5, 9, u"may"_s);
+    const auto june = record(2006, 6, 1, u"june"_s);
+    const auto groups = KController::assortDataArray({may, june, record(2006, 5, 2, u"may 2"_s)});
+    QCOMPARE(groups.keys(), (QList<int>{200605, 200606}));
+    QCOMPARE(detailsOf(groups.value(200605)), (QStringList{u"may"_s, u"may 2"_s}));
+
+    QVERIFY(controller.addData({may, june, record(2006, 5, 2, u"may 2"_s)}));
+    for (int month : {5, 6}) {
+        const auto onDisk = MonthFile::decode(readBytes(controller.filePathForYear(2006, month)), nullptr);
+        QVERIFY(onDisk);
+        QCOMPARE(onDisk->dataListArray().size(), month == 5 ? 2 : 1);
+        QVERIFY(!controller.listForYear(2006, month)->isEdited());
+    }
+
+    // A month whose file cannot be read takes nothing, and says so.
+    writeBytes(controller.filePathForYear(2006, 7), "damaged");
+    QSignalSpy notWritten(&controller, &KController::monthFileNotWritten);
+    QVERIFY(!controller.addData({record(2006, 7, 1, u"july"_s), record(2006, 8, 1, u"august"_s)}));
+    QCOMPARE(notWritten.size(), 1);
+    QVERIFY(controller.listForYear(2006, 7)->dataListArray().isEmpty());
+    QCOMPARE(controller.listForYear(2006, 8)->dataListArray().size(), 1);
+    QCOMPARE(readBytes(controller.filePathForYear(2006, 7)), QByteArray("damaged"));
+}
+
+void TestKController::deletingAndMovingWaitForTheNextSave()
+{
+    KController controller;
+    const auto doomed = record(2006, 5, 9, u"doomed"_s);
+    const auto mover = record(2006, 5, 10, u"mover"_s);
+    controller.addData({doomed, mover, record(2006, 5, 11, u"stays"_s)});
+    const QByteArray written = readBytes(controller.filePathForYear(2006, 5));
+
+    controller.deleteData({doomed});
+    const auto may = controller.monthListForYear(2006, 5);
+    QVERIFY(may->isEdited());
+    QCOMPARE(readBytes(controller.filePathForYear(2006, 5)), written);
+
+    // A move to the month the record is in already changes nothing.
+    controller.moveData(mover, may.get());
+    QCOMPARE(may->dataListArray().size(), 2);
+    mover->setMonth(6);
+    controller.moveData(mover, may.get());
+    QCOMPARE(detailsOf(may->dataListArray()), QStringList{u"stays"_s});
+    QCOMPARE(detailsOf(controller.listForYear(2006, 6)->dataListArray()), QStringList{u"mover"_s});
+    QVERIFY(!QFile::exists(controller.filePathForYear(2006, 6)));
+
+    controller.saveAllEditedData();
+    QCOMPARE(MonthFile::decode(readBytes(controller.filePathForYear(2006, 6)), nullptr)
+                 ->dataListArray().size(),
+             1);
+}
+
+void TestKController::editsAddressTheRecordsCurrentMonth()
+{
+    KController controller;
+    const auto r = record(2006, 5, 9, u"r"_s);
+    controller.addData({r});
+    QSignalSpy changed(Notifications::instance(), &Notifications::dataListHasChanged);
+    r->setAmount(5);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.at(0).at(0).value<DataList *>(), controller.listForYear(2006, 5).get());
+    r->setMonth(6); // the new month's list hears of it, without holding it yet
+    QCOMPARE(changed.at(1).at(0).value<DataList *>(), controller.listForYear(2006, 6).get());
+    QVERIFY(controller.listForYear(2006, 5)->dataListArray().contains(r));
+}
+
+void TestKController::conversionRenumbersEveryMonthFile()
+{
+    writeMonthFile(m_folder, 1999, 1, {record(1999, 1, 1, u"a"_s, 1, 3), record(1999, 1, 2, u"b"_s, 1, 5)});
+    writeMonthFile(m_folder, 2006, 12, {record(2006, 12, 1, u"c"_s, 1, 3)});
+    KController controller;
+    QSignalSpy changed(Notifications::instance(), &Notifications::dataListHasChanged);
+    controller.convertCategory(ConversionMap{{3, 2}});
+    // Each month is recalculated and announced once, not once per record.
+    QCOMPARE(changed.size(), 2);
+    controller.releaseAllDataWithSave(false);
+    const auto january = controller.listForYear(1999, 1);
+    QCOMPARE(january->dataListArray().at(0)->category(), 2);
+    QCOMPARE(january->dataListArray().at(1)->category(), 5);
+    QCOMPARE(controller.listForYear(2006, 12)->dataListArray().at(0)->category(), 2);
+    QCOMPARE(january->categorySum().value(2), 1);
+}
+
+void TestKController::firstStartSettlesFolderAndLists()
+{
+    Settings().setDataPath(QString());
+    KController controller;
+    QVERIFY(controller.setUpFirstStart());
+    const Settings settings;
+    QCOMPARE(settings.version(), 1);
+    const QString folder = settings.dataPath();
+    QVERIFY(folder.endsWith(u"/PenwickData"_s));
+    QVERIFY(QFile::exists(folder + u"/Data.penwick"_s));
+    QCOMPARE(controller.dataFolderPath(), folder);
+    // Only once.
+    QVERIFY(!controller.setUpFirstStart());
+}
+
+void TestKController::closingDayMonths_data()
+{
+    QTest::addColumn<int>("year");
+    QTest::addColumn<int>("month");
+    QTest::addColumn<int>("closingDay");
+    QTest::addColumn<QStringList>("details");
+    // Records exist on 2005/12/20, 12/26, 12/31, 2006/1/1, 1/25, 1/26,
+    // 2006/2/26, 2/28 and 2006/3/1, 3/25, 3/26.
+    QTest::newRow("March closes on the 25th")
+        << 2006 << 3 << 25 << QStringList{u"2/26"_s, u"2/28"_s, u"3/1"_s, u"3/25"_s};
+    QTest::newRow("January starts in December")
+        << 2006 << 1 << 25 << QStringList{u"12/26"_s, u"12/31"_s, u"1/1"_s, u"1/25"_s};
+    QTest::newRow("a day past every month's end is the calendar month")
+        << 2006 << 3 << 31 << QStringList{u"3/1"_s, u"3/25"_s, u"3/26"_s};
+    QTest::newRow("day 28 of a 28-day February")
+        << 2006 << 3 << 28 << QStringList{u"3/1"_s, u"3/25"_s, u"3/26"_s};
+    QTest::newRow("day 0 keeps the whole month before")
+        << 2006 << 2 << 0 << QStringList{u"1/1"_s, u"1/25"_s, u"1/26"_s};
+}
+
+void TestKController::closingDayMonths()
+{
+    QFETCH(int, year);
+    QFETCH(int, month);
+    QFETCH(int, closingDay);
+    QFETCH(QStringList, details);
+    const auto day = [](int y, int m, int d) {
+        return record(y, m, d, QString::number(m) + u'/' + QString::number(d));
+    };
+    writeMonthFile(m_folder, 2005, 12, {day(2005, 12, 20), day(2005, 12, 26), day(2005, 12, 31)});
+    writeMonthFile(m_folder, 2006, 1, {day(2006, 1, 1), day(2006, 1, 25), day(2006, 1, 26)});
+    writeMonthFile(m_folder, 2006, 2, {day(2006, 2, 26), day(2006, 2, 28)});
+    writeMonthFile(m_folder, 2006, 3, {day(2006, 3, 1), day(2006, 3, 25), day(2006, 3, 26)});
+
+    Settings settings;
+    settings.setChangeMonthLastDate(true);
+    settings.setMonthLastDate(closingDay);
+    KController controller;
+    const auto list = controller.listForYear(year, month, true);
+    QVERIFY(dynamic_cast<ModifMonthList *>(list.get()));
+    QCOMPARE(detailsOf(list->dataListArray()), details);
+    QCOMPARE(list->grandTotal(), 100.0f * float(details.size()));
+    QVERIFY(!list->isEdited());
+    // Not cached: every request makes its own.
+    QVERIFY(controller.listForYear(year, month, true) != list);
+
+    // With the setting off, or without asking for it, the calendar month.
+    QCOMPARE(controller.listForYear(year, month, false), controller.listForYear(year, month));
+    settings.setChangeMonthLastDate(false);
+    QVERIFY(!dynamic_cast<ModifMonthList *>(controller.listForYear(year, month, true).get()));
+}
+
+void TestKController::closingDayMonthFollowsItsCalendarMonths()
+{
+    Settings settings;
+    settings.setChangeMonthLastDate(true);
+    settings.setMonthLastDate(25);
+    KController controller;
+    const auto february = record(2006, 2, 27, u"late february"_s);
+    controller.addData({february, record(2006, 3, 2, u"march"_s)});
+    const auto list = std::static_pointer_cast<ModifMonthList>(controller.listForYear(2006, 3, true));
+    QCOMPARE(detailsOf(list->dataListArray()), (QStringList{u"late february"_s, u"march"_s}));
+
+    QSignalSpy changed(Notifications::instance(), &Notifications::dataListHasChanged);
+    controller.deleteData({february});
+    QCOMPARE(detailsOf(list->dataListArray()), QStringList{u"march"_s});
+    QVERIFY(changed.contains(QVariantList{QVariant::fromValue<DataList *>(list.get())}));
+
+    // Structural changes go to the calendar months only.
+    QTest::ignoreMessage(QtWarningMsg, "Invalid Access to ModifMonthList!! addData:");
+    list->addData({record(2006, 3, 3, u"refused"_s)});
+    QTest::ignoreMessage(QtWarningMsg, "Invalid Access to ModifMonthList!! deleteData:");
+    list->deleteData(list->dataListArray());
+    QTest::ignoreMessage(QtWarningMsg, "Invalid Access to ModifMonthList!! checkDateOfDataArray:");
+    list->checkDateOfDataArray(list->dataListArray());
+    QTest::ignoreMessage(QtWarningMsg, "Invalid Access to ModifMonthList!! MakeNewData");
+    list->MakeNewData();
+    QCOMPARE(detailsOf(list->dataListArray()), QStringList{u"march"_s});
 }
 
 QTEST_GUILESS_MAIN(TestKController)

@@ -1,10 +1,13 @@
 #include "ledger/KController.h"
 
 #include "ledger/DataFolder.h"
+#include "model/ModifMonthList.h"
 #include "model/MonthDataList.h"
 #include "model/Notifications.h"
 #include "model/YearDataList.h"
 #include "storage/ListFile.h"
+#include "settings/Settings.h"
+#include "settings/SettingsKeys.h"
 #include "storage/MonthFile.h"
 
 #include <QDir>
@@ -71,6 +74,17 @@ std::shared_ptr<DataList> KController::listForYear(int year, int month)
     if (month != 0)
         settleLoadedList(static_cast<MonthDataList *>(list.get()));
     return list;
+}
+
+std::shared_ptr<DataList> KController::listForYear(int year, int month, bool changeLastDate)
+{
+    std::shared_ptr<DataList> list = listForYear(year, month);
+    if (!list || !changeLastDate || month == 0)
+        return list;
+    const Settings settings;
+    if (!settings.changeMonthLastDate())
+        return list;
+    return std::make_shared<ModifMonthList>(year, month, settings.monthLastDate());
 }
 
 std::shared_ptr<MonthDataList> KController::monthListForYear(int year, int month)
@@ -161,12 +175,21 @@ bool KController::writeDataListToFile(MonthDataList *list)
     return true;
 }
 
-void KController::readAllData()
+QList<std::shared_ptr<MonthDataList>> KController::loadMonthFiles()
 {
+    QList<std::shared_ptr<MonthDataList>> months;
     const QDir folder(dataFolderPath());
     const QStringList entries = folder.entryList(QDir::Files | QDir::Hidden);
-    for (const QString &entry : entries)
-        readDataFromPath(folder.filePath(entry));
+    for (const QString &entry : entries) {
+        if (const auto list = readDataFromPath(folder.filePath(entry)))
+            months.append(std::static_pointer_cast<MonthDataList>(list));
+    }
+    return months;
+}
+
+void KController::readAllData()
+{
+    loadMonthFiles();
 }
 
 void KController::saveAllEditedData()
@@ -211,8 +234,91 @@ QMap<int, PaymentArray> KController::assortDataArray(const PaymentArray &records
     return groups;
 }
 
+bool KController::addData(const PaymentArray &records)
+{
+    bool all = true;
+    const auto groups = assortDataArray(records);
+    for (const PaymentArray &group : groups) {
+        const PaymentDataPtr &first = group.constFirst();
+        all = addData(group, first->year(), first->month()) && all;
+    }
+    return all;
+}
+
+bool KController::addData(const PaymentArray &records, int year, int month)
+{
+    const auto list = monthListForYear(year, month);
+    if (!list)
+        return false;
+    if (list->isReadOnly()) {
+        emit monthFileNotWritten(filePathForYear(year, month),
+                                 tr("The file of this month could not be read, so nothing can be "
+                                    "added to it."));
+        return false;
+    }
+    list->addData(records);
+    writeDataListToFile(list.get());
+    return true;
+}
+
+void KController::deleteData(const PaymentArray &records)
+{
+    const auto groups = assortDataArray(records);
+    for (const PaymentArray &group : groups) {
+        const PaymentDataPtr &first = group.constFirst();
+        deleteData(group, first->year(), first->month());
+    }
+}
+
+void KController::deleteData(const PaymentArray &records, int year, int month)
+{
+    if (const auto list = monthListForYear(year, month))
+        list->deleteData(records);
+}
+
+void KController::convertCategory(const ConversionMap &map)
+{
+    convertAllMonths([&map](MonthDataList &month) { month.convertCategory(map); });
+}
+
+void KController::convertPayway(const ConversionMap &map)
+{
+    convertAllMonths([&map](MonthDataList &month) { month.convertPayway(map); });
+}
+
+void KController::convertAllMonths(const std::function<void(MonthDataList &)> &convert)
+{
+    // Each record reports its change; re-sorting its month for every one of
+    // them would make renumbering decades of entries crawl. The month is
+    // brought up to date once, after all its records.
+    m_converting = true;
+    const auto months = loadMonthFiles();
+    for (const std::shared_ptr<MonthDataList> &month : months) {
+        convert(*month);
+        month->notifyChange();
+    }
+    m_converting = false;
+    saveAllEditedData();
+}
+
+bool KController::setUpFirstStart()
+{
+    Settings settings;
+    if (settings.version() != 0)
+        return false;
+    const QString folder = DataFolder::dataFolderPath();
+    ListFile::dataDictionaryPath(folder);
+    settings.setVersion(1);
+    settings.setDataPath(folder);
+    settings.sync();
+    m_dataFolder = folder;
+    return true;
+}
+
 void KController::editData(const PaymentArray &records)
 {
+    if (m_converting)
+        return;
     const auto groups = assortDataArray(records);
     for (const PaymentArray &group : groups) {
         const PaymentDataPtr &first = group.constFirst();

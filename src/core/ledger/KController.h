@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
+
 class MonthDataList;
 
 // The application controller's data half: the month store with its cache of
@@ -34,6 +36,9 @@ public:
     // The cached list of a month (loaded on first use), the year list for
     // month 0, nothing for an impossible month.
     std::shared_ptr<DataList> listForYear(int year, int month) override;
+    // The same; with changeLastDate and the closing day in force, a new
+    // closing-day month instead (not cached).
+    std::shared_ptr<DataList> listForYear(int year, int month, bool changeLastDate);
     std::shared_ptr<MonthDataList> monthListForYear(int year, int month);
     // The loader behind the cache: a year list, the month read from its file,
     // or a new empty month when there is no file.
@@ -54,6 +59,22 @@ public:
 
     // The records grouped by year * 100 + month, each group in the given order.
     static QMap<int, PaymentArray> assortDataArray(const PaymentArray &records);
+    // Adds each month's records to that month and writes it at once. A month
+    // whose file could not be read takes nothing: false then, and reported,
+    // so that the caller keeps what it could not book.
+    bool addData(const PaymentArray &records);
+    bool addData(const PaymentArray &records, int year, int month);
+    // Removes the records from their months; written at the next save.
+    void deleteData(const PaymentArray &records);
+    void deleteData(const PaymentArray &records, int year, int month);
+    // Renumbers the categories (or payways) of every month file of the data
+    // folder, then saves.
+    void convertCategory(const ConversionMap &map);
+    void convertPayway(const ConversionMap &map);
+
+    // On the very first start (no "Version" yet): writes the initial lists,
+    // settles the data folder and remembers both. True when it did.
+    bool setUpFirstStart();
     void editData(const PaymentArray &records) override;
     void moveData(const PaymentDataPtr &record, MonthDataList *fromList) override;
     // Reloads the category and payway names from the data folder's list file
@@ -72,6 +93,8 @@ signals:
     void monthFileNotWritten(const QString &path, const QString &reason);
 
 private:
+    QList<std::shared_ptr<MonthDataList>> loadMonthFiles();
+    void convertAllMonths(const std::function<void(MonthDataList &)> &convert);
     std::shared_ptr<MonthDataList> readMonthFile(int year, int month);
     void settleLoadedList(MonthDataList *list);
     void scheduleSave(DataList *list);
@@ -81,6 +104,7 @@ private:
     QString m_dataFolder;
     QStringList m_categoryList;
     QStringList m_paywayList;
+    bool m_converting = false;
     // Edited months reach the disk about a second after the last change, not
     // only at quit.
     QTimer m_saveTimer;

@@ -11,6 +11,21 @@ Settings::Settings()
 
 Settings::~Settings() = default;
 
+void Settings::sync()
+{
+    m_settings->sync();
+}
+
+int Settings::version() const
+{
+    return m_settings->value(SettingsKeys::Version, 0).toInt();
+}
+
+void Settings::setVersion(int version)
+{
+    m_settings->setValue(SettingsKeys::Version, version);
+}
+
 QString Settings::dataPath() const
 {
     return m_settings->value(SettingsKeys::DataPath).toString();
@@ -19,4 +34,34 @@ QString Settings::dataPath() const
 void Settings::setDataPath(const QString &path)
 {
     m_settings->setValue(SettingsKeys::DataPath, path);
+}
+
+bool Settings::changeMonthLastDate() const
+{
+    return m_settings->value(SettingsKeys::ChangeMonthLastDate, false).toBool();
+}
+
+void Settings::setChangeMonthLastDate(bool on)
+{
+    m_settings->setValue(SettingsKeys::ChangeMonthLastDate, on);
+}
+
+int Settings::monthLastDate() const
+{
+    return m_settings->value(SettingsKeys::MonthLastDate, 0).toInt();
+}
+
+void Settings::setMonthLastDate(int day)
+{
+    m_settings->setValue(SettingsKeys::MonthLastDate, day);
+}
+
+QString Settings::passwordHash() const
+{
+    return m_settings->value(SettingsKeys::PasswordHash).toString();
+}
+
+void Settings::setPasswordHash(const QString &hash)
+{
+    m_settings->setValue(SettingsKeys::PasswordHash, hash);
 }

@@ -14,9 +14,27 @@ public:
     Settings();
     ~Settings();
 
+    // Writes what was set to disk now, rather than some time later.
+    void sync();
+
+    // 0 until the first start has set things up.
+    int version() const;
+    void setVersion(int version);
+
     // The data folder the user chose; empty when none was stored.
     QString dataPath() const;
     void setDataPath(const QString &path);
+
+    // Months that close on a chosen day instead of the calendar's last day.
+    bool changeMonthLastDate() const;
+    void setChangeMonthLastDate(bool on);
+    int monthLastDate() const;
+    void setMonthLastDate(int day);
+
+    // The one-way hash of the password that locks the account book; empty
+    // when there is none.
+    QString passwordHash() const;
+    void setPasswordHash(const QString &hash);
 
 private:
     std::unique_ptr<QSettings> m_settings;

@@ -1,0 +1,256 @@
+#include "TestDataFolder.h"
+
+#include "password/ConfirmPassPanelController.h"
+#include "password/SetPassPanelController.h"
+#include "settings/SettingsKeys.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Hashes of "abc", "xyzzy" and "pass".
+const QString AbcHash = u"pWNtzVs0HB6cU"_s;
+const QString XyzzyHash = u"pWRymE7YbxVUY"_s;
+const QString PassHash = u"pWdiyaD7yoxhI"_s;
+
+QSettings settings()
+{
+    return QSettings(u"Penwick"_s, u"Penwick"_s);
+}
+
+QString storedHash()
+{
+    return settings().value(SettingsKeys::PasswordHash).toString();
+}
+
+template <typename T>
+T *child(QWidget *panel, const QString &name = {})
+{
+    auto *found = panel->findChild<T *>(name);
+    if (!found)
+        qFatal("%s has no %s", panel->metaObject()->className(), qPrintable(name));
+    return found;
+}
+
+QLineEdit *field(QWidget *panel, const QString &name)
+{
+    return child<QLineEdit>(panel, name);
+}
+
+QString message(QWidget *panel)
+{
+    return child<QLabel>(panel, u"passMessageTF"_s)->text();
+}
+
+QPushButton *button(QWidget *panel, QDialogButtonBox::StandardButton which)
+{
+    return child<QDialogButtonBox>(panel)->button(which);
+}
+
+// Replaces the field's text by typing, as a user would.
+void retype(QWidget *panel, const QString &name, const QString &text)
+{
+    field(panel, name)->clear();
+    QTest::keyClicks(field(panel, name), text);
+}
+
+// Fills the three fields and presses Return in the last.
+void submitSetPanel(QWidget *panel, const QString &oldText, const QString &newText,
+                    const QString &repeatText)
+{
+    retype(panel, u"oldPassTF"_s, oldText);
+    retype(panel, u"newPassTF"_s, newText);
+    retype(panel, u"newPassTF2"_s, repeatText);
+    QTest::keyClick(field(panel, u"newPassTF2"_s), Qt::Key_Return);
+}
+
+void deleteClosedPanels()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace
+
+class TestPasswordPanels : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void setChangeAndRemoveThePassword();
+    void wrongOldOrMismatchedNewIsRefused();
+    void handOverModeSavesNothing();
+
+    void confirmRetriesUntilRight();
+    void confirmCancels_data();
+    void confirmCancels();
+
+private:
+    SetPassPanelController *openSetPanel();
+
+    TestDataFolder m_home;
+    QWidget m_preferences;
+};
+
+void TestPasswordPanels::init()
+{
+    settings().remove(SettingsKeys::PasswordHash);
+    deleteClosedPanels();
+}
+
+SetPassPanelController *TestPasswordPanels::openSetPanel()
+{
+    auto *panel = new SetPassPanelController(&m_preferences);
+    panel->open();
+    return panel;
+}
+
+void TestPasswordPanels::setChangeAndRemoveThePassword()
+{
+    QPointer<SetPassPanelController> panel = openSetPanel();
+    QCOMPARE(panel->windowModality(), Qt::WindowModal);
+    submitSetPanel(panel, QString(), u"abc"_s, u"abc"_s);
+    QCOMPARE(storedHash(), AbcHash);
+    QVERIFY(!panel->isVisible());
+    deleteClosedPanels();
+    QVERIFY(panel.isNull());
+
+    submitSetPanel(openSetPanel(), u"abc"_s, u"xyzzy"_s, u"xyzzy"_s);
+    QCOMPARE(storedHash(), XyzzyHash);
+
+    panel = openSetPanel();
+    submitSetPanel(panel, u"xyzzy"_s, QString(), QString());
+    QVERIFY(!panel->isVisible());
+    QVERIFY(settings().contains(SettingsKeys::PasswordHash));
+    QCOMPARE(storedHash(), QString());
+}
+
+void TestPasswordPanels::wrongOldOrMismatchedNewIsRefused()
+{
+    // Without a password any old text is wrong; with one, a different text.
+    for (const QString &stored : {QString(), AbcHash}) {
+        settings().setValue(SettingsKeys::PasswordHash, stored);
+        SetPassPanelController *panel = openSetPanel();
+        submitSetPanel(panel, u"abd"_s, u"new"_s, u"new"_s);
+        QCOMPARE(message(panel), u"Old password is wrong"_s);
+        QVERIFY(panel->isVisible());
+        QCOMPARE(storedHash(), stored);
+        // Selected, ready to be typed over.
+        QCOMPARE(field(panel, u"oldPassTF"_s)->selectedText(), u"abd"_s);
+        panel->reject();
+    }
+
+    settings().setValue(SettingsKeys::PasswordHash, AbcHash);
+    SetPassPanelController *panel = openSetPanel();
+    submitSetPanel(panel, u"abc"_s, u"xyzzy"_s, u"xyzzz"_s);
+    QCOMPARE(message(panel), u"New password is wrong"_s);
+    QVERIFY(panel->isVisible());
+    QCOMPARE(storedHash(), AbcHash);
+
+    submitSetPanel(panel, u"abc"_s, u"xyzzy"_s, u"xyzzy"_s);
+    QVERIFY(!panel->isVisible());
+    QCOMPARE(storedHash(), XyzzyHash);
+}
+
+void TestPasswordPanels::handOverModeSavesNothing()
+{
+    settings().setValue(SettingsKeys::PasswordHash, XyzzyHash);
+    SetPassPanelController *panel = openSetPanel();
+    panel->setMode(SetPassPanelController::Mode::HandOver);
+    // The given hash, not the stored one, is what the old password must match.
+    panel->setPassword(AbcHash);
+    QSignalSpy chosen(panel, &SetPassPanelController::passwordChosen);
+    // The hash comes after the dialog has ended.
+    connect(panel, &SetPassPanelController::passwordChosen, this,
+            [panel] { QVERIFY(!panel->isVisible()); });
+
+    submitSetPanel(panel, u"abc"_s, u"pass"_s, u"pass"_s);
+    QCOMPARE(chosen.count(), 1);
+    QCOMPARE(chosen.at(0).at(0).toString(), PassHash);
+    QCOMPARE(storedHash(), XyzzyHash);
+
+    panel = openSetPanel();
+    panel->setMode(SetPassPanelController::Mode::HandOver);
+    QSignalSpy chosenOnCancel(panel, &SetPassPanelController::passwordChosen);
+    button(panel, QDialogButtonBox::Cancel)->click();
+    QVERIFY(!panel->isVisible());
+    QCOMPARE(chosenOnCancel.count(), 0);
+}
+
+void TestPasswordPanels::confirmRetriesUntilRight()
+{
+    settings().setValue(SettingsKeys::PasswordHash, AbcHash);
+    // A start-up panel may well delete itself; the signal must still come.
+    QPointer<ConfirmPassPanelController> panel = new ConfirmPassPanelController;
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    QSignalSpy confirmed(panel, &ConfirmPassPanelController::confirmed);
+    QSignalSpy canceled(panel, &ConfirmPassPanelController::canceled);
+    panel->runAsWindow();
+    QCOMPARE(message(panel), u"Enter your password"_s);
+
+    for (const QString &wrong : {u"abd"_s, QString(), u"ABC"_s}) {
+        retype(panel, u"passwordTF"_s, wrong);
+        QTest::keyClick(field(panel, u"passwordTF"_s), Qt::Key_Return);
+        QCOMPARE(message(panel), u"Password is wrong"_s);
+        QVERIFY(panel->isVisible());
+    }
+
+    retype(panel, u"passwordTF"_s, u"abc"_s);
+    // Press OK from inside the event loop, as a user would, so that the
+    // panel's deletion is due on the loop's next pass too.
+    qsizetype confirmedRightAway = -1;
+    QTimer::singleShot(0, panel, [&] {
+        QTest::keyClick(field(panel, u"passwordTF"_s), Qt::Key_Return);
+        confirmedRightAway = confirmed.count();
+    });
+    QVERIFY(confirmed.wait());
+    QCOMPARE(confirmedRightAway, 0);
+    QCOMPARE(canceled.count(), 0);
+    deleteClosedPanels();
+    QVERIFY(panel.isNull());
+}
+
+void TestPasswordPanels::confirmCancels_data()
+{
+    QTest::addColumn<int>("way");
+    QTest::newRow("cancel button") << 0;
+    QTest::newRow("escape") << 1;
+    QTest::newRow("close button") << 2;
+}
+
+void TestPasswordPanels::confirmCancels()
+{
+    QFETCH(int, way);
+    settings().setValue(SettingsKeys::PasswordHash, AbcHash);
+    ConfirmPassPanelController panel;
+    QSignalSpy confirmed(&panel, &ConfirmPassPanelController::confirmed);
+    QSignalSpy canceled(&panel, &ConfirmPassPanelController::canceled);
+    panel.runAsWindow();
+    // The right password counts only with OK.
+    retype(&panel, u"passwordTF"_s, u"abc"_s);
+
+    if (way == 0)
+        button(&panel, QDialogButtonBox::Cancel)->click();
+    else if (way == 1)
+        QTest::keyClick(field(&panel, u"passwordTF"_s), Qt::Key_Escape);
+    else
+        panel.close();
+    QVERIFY(!panel.isVisible());
+    QCOMPARE(canceled.count(), 0);
+    QVERIFY(canceled.wait());
+    QCOMPARE(confirmed.count(), 0);
+}
+
+QTEST_MAIN(TestPasswordPanels)
+#include "tst_passwordpanels.moc"
