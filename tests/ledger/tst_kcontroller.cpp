@@ -1,4 +1,5 @@
 #include "TestDataFolder.h"
+#include "TestHelpers.h"
 
 #include "ledger/DataFolder.h"
 #include "ledger/KController.h"
@@ -25,19 +26,6 @@ PaymentDataPtr record(int year, int month, int date, const QString &details, flo
     return std::make_shared<PaymentData>(year, month, date, category, details, amount, 0);
 }
 
-QByteArray readBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeBytes(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
 // A month file as another program (or an older version of this one) left it.
 void writeMonthFile(const QString &folder, int year, int month, const PaymentArray &records,
                     const QString &summary = {})
@@ -46,14 +34,6 @@ void writeMonthFile(const QString &folder, int year, int month, const PaymentArr
     list.setDataListArray(records);
     list.setSummary(summary);
     writeBytes(DataFolder::filePathForYear(folder, year, month), MonthFile::encode(list));
-}
-
-QStringList detailsOf(const PaymentArray &records)
-{
-    QStringList texts;
-    for (const PaymentDataPtr &r : records)
-        texts.append(r->details());
-    return texts;
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "TestHelpers.h"
 #include "TestLedgerController.h"
 
 #include "model/MonthDataList.h"
@@ -27,14 +28,6 @@ std::shared_ptr<MonthDataList> listOf(const PaymentArray &records, int year = 20
     list->calcSumOfData();
     list->extractAll();
     return list;
-}
-
-QStringList detailsOf(const PaymentArray &records)
-{
-    QStringList texts;
-    for (const PaymentDataPtr &r : records)
-        texts.append(r->details());
-    return texts;
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "TestDataFolder.h"
+#include "TestHelpers.h"
 
 #include "storage/ColorArchive.h"
 #include "storage/ListFile.h"
@@ -11,19 +12,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-QByteArray readBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeBytes(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 RgbaColor colorAt(const QVariantList &colors, qsizetype i)
 {
