@@ -22,6 +22,8 @@ packages=(
   shared-mime-info
   xvfb
   xauth
+  x11-utils
+  libqt6svg6
 )
 
 missing=()

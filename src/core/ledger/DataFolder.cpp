@@ -14,7 +14,7 @@ namespace {
 QString defaultFolderName()
 {
     // The text table answers the key itself when it has no translation.
-    const char *key = "DataFolderName";
+    const char *key = QT_TRANSLATE_NOOP("Localizable", "DataFolderName");
     const QString name = QCoreApplication::translate("Localizable", key);
     return name == QLatin1StringView(key) ? QStringLiteral("PenwickData") : name;
 }

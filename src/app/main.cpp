@@ -1,0 +1,108 @@
+// The composition root: settles the application's identity and language,
+// makes sure one instance serves a data folder, and hands over to the
+// application controller.
+
+#include "SingleInstance.h"
+#include "UnixSignalQuit.h"
+
+#include "app/KAppController.h"
+#include "ledger/DataFolder.h"
+#include "ledger/KController.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QTranslator>
+
+#include <cstdio>
+
+namespace {
+
+void installTranslators(QApplication &app)
+{
+    auto *qt = new QTranslator(&app);
+    if (qt->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                 QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(qt);
+
+    // English is the fallback: the texts are looked up by key, and a key is
+    // not always a sentence.
+    auto *own = new QTranslator(&app);
+    if (own->load(QLocale(), QStringLiteral("penwick"), QStringLiteral("_"), QStringLiteral(":/i18n"))
+        || own->load(QStringLiteral("penwick_en"), QStringLiteral(":/i18n")))
+        QApplication::installTranslator(own);
+}
+
+QStringList monthFilesOf(const QStringList &arguments)
+{
+    QStringList files;
+    for (const QString &argument : arguments)
+        files.append(QFileInfo(argument).absoluteFilePath());
+    return files;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication app(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Penwick"));
+    QCoreApplication::setApplicationName(QStringLiteral("Penwick"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(PENWICK_VERSION));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Penwick"));
+    QGuiApplication::setDesktopFileName(QStringLiteral(PENWICK_APP_ID));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral(PENWICK_APP_ID),
+                                                 QIcon(QStringLiteral(":/icons/penwick.svg"))));
+    installTranslators(app);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QCoreApplication::translate("main", "A household account book."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("files"),
+                                 QCoreApplication::translate("main", "Month files to show (Data_YEAR_MONTH.Penwick)."),
+                                 QStringLiteral("[files...]"));
+    parser.process(app);
+    const QStringList files = monthFilesOf(parser.positionalArguments());
+
+    SingleInstance instance(DataFolder::dataFolderPath());
+    switch (instance.claimOrForward(files)) {
+    case SingleInstance::Role::Forwarded:
+        return 0;
+    case SingleInstance::Role::Failed:
+        QMessageBox::critical(nullptr, QStringLiteral("Penwick"), instance.errorString());
+        return 1;
+    case SingleInstance::Role::Primary:
+        break;
+    }
+
+    KAppController controller;
+    for (const QString &file : files) {
+        if (!controller.openFile(file))
+            std::fprintf(stderr, "%s\n",
+                         qPrintable(QCoreApplication::translate(
+                                        "main", "%1 is not a month file of Penwick; it is left alone.")
+                                        .arg(file)));
+    }
+    QObject::connect(&instance, &SingleInstance::requestReceived, &controller,
+                     [&controller](const QStringList &request) {
+                         for (const QString &file : request)
+                             controller.openFile(file);
+                         controller.activate();
+                     });
+
+    UnixSignalQuit signalQuit;
+    QObject::connect(&signalQuit, &UnixSignalQuit::quitRequested, &app, &QCoreApplication::quit);
+    QObject::connect(&app, &QCoreApplication::aboutToQuit, &controller,
+                     &KAppController::applicationWillTerminate);
+    // The session may end without quitting us in order: save when asked to.
+    QObject::connect(&app, &QGuiApplication::commitDataRequest, controller.ledger(),
+                     &KController::saveAllEditedData, Qt::DirectConnection);
+
+    controller.confirmPassword();
+    return app.exec();
+}

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QSet>
+#include <QString>
+
+#include <memory>
+
+class ConfirmPassPanelController;
+class KController;
+class QAction;
+class QMenuBar;
+class QWidget;
+
+// The application controller's window half: it starts the program (password,
+// first start, the windows the settings name), owns the windows, builds the
+// menu every window carries, tells the user what the store could not do,
+// and decides whether the application may quit. The data half, KController,
+// is owned here and shared with every window.
+class KAppController : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Menu items whose tag is one of these act on the account book and stay
+    // disabled until start-up has passed the password.
+    enum MenuTag { InputWindowTag = 102, ListWindowTag = 404, GraphWindowTag = 405,
+                   BalanceWindowTag = 406 };
+
+    explicit KAppController(QObject *parent = nullptr);
+    ~KAppController() override;
+
+    KController *ledger() const { return m_ledger.get(); }
+    bool running() const { return m_running; }
+
+    // Asks for the password when one is stored and starts up once it is
+    // given; without one, starts at once. Cancelling quits.
+    void confirmPassword();
+    // Opens the account book: first-start set-up, the lists, the windows.
+    void startUp();
+
+    // Whether the menu item may be chosen now (by its tag).
+    bool validateMenuItem(const QAction *item) const;
+    // Gives the window the application's menu bar.
+    QMenuBar *installMenuBar(QWidget *window);
+
+    // A month file handed over from the desktop or a second launch: answers
+    // whether it was taken (its extension is "Penwick"). Before start-up it
+    // waits for the password.
+    bool openFile(const QString &path);
+    // A second launch asked for the application: bring it to the front.
+    void activate();
+
+    // False when a window holds work that must be settled first; the window
+    // then asks the user, and quits itself if told to.
+    bool applicationShouldTerminate();
+    // Writes every edited month; connected to the application's last moments.
+    void applicationWillTerminate();
+
+public slots:
+    // Quit, as chosen from the menu: asks applicationShouldTerminate first.
+    void quit();
+
+private:
+    void createActions();
+    void updateMenuItems();
+    void registerMyNotifications();
+    void openStartWindows();
+    void reportMonthFileUnreadable(const QString &path, const QString &reason);
+    void reportMonthFileNotWritten(const QString &path, const QString &reason);
+    void report(const QString &text, const QString &details);
+    void showAbout();
+
+    std::unique_ptr<KController> m_ledger;
+    bool m_running = false;
+    QPointer<ConfirmPassPanelController> m_passwordPanel;
+    QStringList m_filesWaitingForStart;
+    // Paths already reported, so that a folder of broken files, or a disk
+    // that stays full, is told once rather than at every save.
+    QSet<QString> m_reportedUnreadable;
+    QSet<QString> m_reportedNotWritten;
+
+    QAction *m_quitAction = nullptr;
+    QAction *m_aboutAction = nullptr;
+    QList<QAction *> m_windowActions;
+};

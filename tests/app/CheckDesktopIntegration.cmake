@@ -1,0 +1,42 @@
+# Installs the build into a scratch prefix and checks what a desktop needs
+# there: a valid desktop entry, and a file type that claims "*.Penwick".
+set(prefix ${BUILD_DIR}/desktop-integration-check)
+file(REMOVE_RECURSE ${prefix})
+
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix}
+                RESULT_VARIABLE status OUTPUT_QUIET)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "cmake --install failed")
+endif()
+
+foreach(file bin/penwick bin/penwickctl
+             share/applications/org.penwick.Penwick.desktop
+             share/mime/packages/org.penwick.Penwick.xml
+             share/icons/hicolor/scalable/apps/org.penwick.Penwick.svg)
+  if(NOT EXISTS ${prefix}/${file})
+    message(FATAL_ERROR "${file} was not installed")
+  endif()
+endforeach()
+
+execute_process(COMMAND desktop-file-validate ${prefix}/share/applications/org.penwick.Penwick.desktop
+                RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE out)
+if(NOT status EQUAL 0 OR out MATCHES "error|warning")
+  message(FATAL_ERROR "desktop-file-validate:\n${out}")
+endif()
+
+# Building the MIME database parses the type; its glob table then maps
+# month files to it, and the desktop entry offers to open that type.
+execute_process(COMMAND update-mime-database ${prefix}/share/mime
+                RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE out)
+if(NOT status EQUAL 0 OR out MATCHES "rror|arning")
+  message(FATAL_ERROR "update-mime-database:\n${out}")
+endif()
+file(READ ${prefix}/share/mime/globs2 globs)
+if(NOT globs MATCHES "application/x-penwick-month:\\*\\.Penwick:cs")
+  message(FATAL_ERROR "month files are not claimed by the file type:\n${globs}")
+endif()
+file(READ ${prefix}/share/applications/org.penwick.Penwick.desktop entry)
+if(NOT entry MATCHES "MimeType=application/x-penwick-month;")
+  message(FATAL_ERROR "the desktop entry does not open month files")
+endif()
+file(REMOVE_RECURSE ${prefix})

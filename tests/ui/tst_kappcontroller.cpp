@@ -1,0 +1,200 @@
+#include "TestDataFolder.h"
+
+#include "app/KAppController.h"
+#include "ledger/KController.h"
+#include "password/ConfirmPassPanelController.h"
+#include "security/PasswordLock.h"
+#include "settings/Settings.h"
+#include "storage/ListFile.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+#include <QTest>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+template <typename T>
+QList<T *> visibleTopLevels()
+{
+    QList<T *> found;
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *typed = qobject_cast<T *>(widget); typed && typed->isVisible())
+            found.append(typed);
+    }
+    return found;
+}
+
+void closeTopLevels()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        widget->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+QAction *actionWithTag(QMenuBar *bar, int tag)
+{
+    for (QAction *action : bar->findChildren<QAction *>()) {
+        if (action->data().toInt() == tag)
+            return action;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TestKAppController : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void withoutPasswordStartsAtOnce();
+    void withPasswordNothingStartsUntilConfirmed();
+    void firstStartSetsUpTheDataFolder();
+    void openFileTakesOnlyMonthFiles();
+    void storeProblemsAreToldOncePerFile();
+    void everyWindowGetsTheMenu();
+
+private:
+    TestDataFolder m_home;
+};
+
+void TestKAppController::init()
+{
+    m_home.freshDataFolder();
+    Settings settings;
+    settings.setVersion(1);
+    settings.setPasswordHash(QString());
+}
+
+void TestKAppController::cleanup()
+{
+    closeTopLevels();
+}
+
+void TestKAppController::withoutPasswordStartsAtOnce()
+{
+    KAppController controller;
+    QVERIFY(!controller.running());
+    controller.confirmPassword();
+    QVERIFY(controller.running());
+    QVERIFY(visibleTopLevels<ConfirmPassPanelController>().isEmpty());
+}
+
+void TestKAppController::withPasswordNothingStartsUntilConfirmed()
+{
+    // A first start, locked: not even the first-start files may appear
+    // before the password is given.
+    Settings().setVersion(0);
+    QVERIFY(PasswordLock::savePasswordToDefault(u"secret"_s));
+    const QString listFile = ListFile::dictionaryPathString(m_home.dataFolder());
+
+    KAppController controller;
+    QAction probe;
+    probe.setData(int(KAppController::ListWindowTag));
+    controller.confirmPassword();
+    QVERIFY(!controller.running());
+    QVERIFY(!controller.validateMenuItem(&probe));
+    QVERIFY(!QFileInfo::exists(listFile));
+    QCOMPARE(Settings().version(), 0);
+
+    const auto panels = visibleTopLevels<ConfirmPassPanelController>();
+    QCOMPARE(panels.size(), 1);
+    auto *field = panels.first()->findChild<QLineEdit *>(u"passwordTF"_s);
+    QTest::keyClicks(field, u"secreT"_s);
+    QTest::keyClick(field, Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QVERIFY(!controller.running());
+
+    field->selectAll();
+    QTest::keyClicks(field, u"secret"_s);
+    QTest::keyClick(field, Qt::Key_Return);
+    QTRY_VERIFY(controller.running());
+    QVERIFY(controller.validateMenuItem(&probe));
+    QVERIFY(QFileInfo::exists(listFile));
+    QCOMPARE(Settings().version(), 1);
+}
+
+void TestKAppController::firstStartSetsUpTheDataFolder()
+{
+    {
+        QSettings raw(u"Penwick"_s, u"Penwick"_s);
+        raw.clear();
+    }
+    KAppController controller;
+    controller.confirmPassword();
+    Settings settings;
+    QCOMPARE(settings.version(), 1);
+    const QString folder = settings.dataPath();
+    QVERIFY(!folder.isEmpty());
+    QVERIFY(QFileInfo(folder).isDir());
+    QVERIFY(QFileInfo::exists(ListFile::dictionaryPathString(folder)));
+    QCOMPARE(controller.ledger()->categoryList().size(), 14);
+}
+
+void TestKAppController::openFileTakesOnlyMonthFiles()
+{
+    KAppController controller;
+    const QString folder = m_home.dataFolder();
+    // Taken before start-up too: it waits for the password.
+    QVERIFY(controller.openFile(folder + u"/Data_2006_5.Penwick"_s));
+    controller.confirmPassword();
+    QVERIFY(controller.openFile(folder + u"/Data_2006_5.Penwick"_s));
+    // A name that gives no month is still a month file by its extension.
+    QVERIFY(controller.openFile(u"/elsewhere/Household.Penwick"_s));
+    QVERIFY(!controller.openFile(folder + u"/Data_2006_5.penwick"_s));
+    QVERIFY(!controller.openFile(folder + u"/Data.penwick"_s));
+    QVERIFY(!controller.openFile(folder + u"/Data_2006_5.Penwick.bak"_s));
+}
+
+void TestKAppController::storeProblemsAreToldOncePerFile()
+{
+    KAppController controller;
+    controller.confirmPassword();
+    QWidget front;
+    front.show();
+    front.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&front));
+
+    const QString may = m_home.filePath(u"Data_2006_5.Penwick"_s);
+    const QString june = m_home.filePath(u"Data_2006_6.Penwick"_s);
+    emit controller.ledger()->monthFileNotWritten(may, u"No space left on device"_s);
+    emit controller.ledger()->monthFileNotWritten(may, u"No space left on device"_s);
+    QList<QMessageBox *> boxes = front.findChildren<QMessageBox *>();
+    QCOMPARE(boxes.size(), 1);
+    QCOMPARE(boxes.first()->windowModality(), Qt::WindowModal);
+    QVERIFY(boxes.first()->text().contains(u"May 2006"_s));
+    QVERIFY(boxes.first()->informativeText().contains(u"No space left on device"_s));
+
+    emit controller.ledger()->monthFileUnreadable(june, u"not an archive"_s);
+    emit controller.ledger()->monthFileNotWritten(june, u"read-only file system"_s);
+    QCOMPARE(front.findChildren<QMessageBox *>().size(), 3);
+}
+
+void TestKAppController::everyWindowGetsTheMenu()
+{
+    KAppController controller;
+    QWidget window;
+    new QVBoxLayout(&window);
+    QMenuBar *bar = controller.installMenuBar(&window);
+    QCOMPARE(window.layout()->menuBar(), bar);
+    QStringList titles;
+    for (QAction *menu : bar->actions())
+        titles.append(menu->text());
+    QCOMPARE(titles.first(), u"&File"_s);
+    QCOMPARE(titles.last(), u"&Help"_s);
+    QVERIFY(!actionWithTag(bar, KAppController::ListWindowTag)
+            || !actionWithTag(bar, KAppController::ListWindowTag)->isEnabled());
+}
+
+QTEST_MAIN(TestKAppController)
+#include "tst_kappcontroller.moc"
