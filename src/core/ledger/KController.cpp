@@ -16,6 +16,8 @@
 #include <QSaveFile>
 #include <QtDebug>
 
+#include <algorithm>
+
 namespace {
 constexpr int kSaveDelayMs = 1000;
 
@@ -190,6 +192,17 @@ QList<std::shared_ptr<MonthDataList>> KController::loadMonthFiles()
 void KController::readAllData()
 {
     loadMonthFiles();
+}
+
+QList<std::shared_ptr<DataList>> KController::cachedLists() const
+{
+    QList<int> keys = m_listStock.keys();
+    std::sort(keys.begin(), keys.end());
+    QList<std::shared_ptr<DataList>> lists;
+    lists.reserve(keys.size());
+    for (int key : keys)
+        lists.append(m_listStock.value(key));
+    return lists;
 }
 
 void KController::saveAllEditedData()

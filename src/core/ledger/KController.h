@@ -50,6 +50,8 @@ public:
     bool writeDataListToFile(MonthDataList *list);
     // Loads every month file of the data folder.
     void readAllData();
+    // Every list in the cache, by year * 100 + month ascending.
+    QList<std::shared_ptr<DataList>> cachedLists() const;
     // Writes every edited month of the cache.
     void saveAllEditedData();
     // Loads every month and writes each one again, edited or not.

@@ -209,5 +209,10 @@ void DataList::sortwithKey(QStringView key)
         compareRecords(*m_extractedArray.constFirst(), *m_extractedArray.constLast(),
                        PaymentData::keyFromName(key), false)
         < 0;
-    sortList(m_extractedArray, key, runsSmallestFirst);
+    sortExtractedArray(key, runsSmallestFirst);
+}
+
+void DataList::sortExtractedArray(QStringView key, bool ascending)
+{
+    sortList(m_extractedArray, key, ascending);
 }

@@ -60,6 +60,8 @@ public:
     // Reverses the order of the selected records by key: largest first when
     // they run smallest first now, else smallest first.
     void sortwithKey(QStringView key);
+    // Sorts the selected records by key, with the inverted flag of sortList.
+    void sortExtractedArray(QStringView key, bool ascending);
 
 protected:
     int m_year = 0;

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "model/PaymentData.h"
+
+#include <QVariantMap>
+
+#include <memory>
+
+class DataList;
+class KController;
+
+// What scripts can do with the account book, apart from any transport: the
+// object model (month lists as elements of the application, reached by ID,
+// name or index; records with their seven properties) and the commands.
+// Every operation works on the controller's own lists, so a script and the
+// windows see and change the same records.
+namespace ScriptCommands {
+
+// The seven script properties of a record ("year", "month", "date",
+// "category", "details", "amount", "payway") plus "description", its one-line
+// text with the category and payway names.
+QVariantMap recordProperties(const PaymentData &record);
+QList<QVariantMap> recordProperties(const PaymentArray &records);
+
+// A new record from the named fields present, set in the order year, month,
+// date, category, details, amount, payway through the record's own setters
+// (so a month of 14 files it under December); the rest as a new record has
+// them (today, category 0, no details, amount 0, payway 0). It is booked at
+// once: added to its month and that month written. Null when the month could
+// not take it (an impossible month, or one whose file could not be read).
+PaymentDataPtr makeNewPaymentData(KController &controller, const QVariantMap &fields);
+
+// Every month of the data folder (all are loaded first) with every other
+// list in the cache, by year * 100 + month ascending.
+QList<std::shared_ptr<DataList>> dataLists(KController &controller);
+// Month index + 1 of the year 2004: scripts that count months by index
+// address that year, whatever it is now.
+std::shared_ptr<DataList> valueAtIndex(KController &controller, int index);
+// year * 100 + month, as in 200605.
+std::shared_ptr<DataList> valueWithID(KController &controller, int id);
+// The ID as text ("200605"), read as a number.
+std::shared_ptr<DataList> valueWithName(KController &controller, const QString &name);
+// The ID of a list: year * 100 + month.
+int uniqueID(const DataList &list);
+
+// Sorts the list's selected records by the argument "sortKey" (a record key
+// such as "Amount"): "ascend" smallest first, else "descend" largest first,
+// else the reverse of the current order. Without a key nothing changes.
+void sortWithASCommand(DataList &list, const QVariantMap &arguments);
+// Selects every record again.
+void cancelExtractWithASCommand(DataList &list);
+
+} // namespace ScriptCommands

@@ -1,0 +1,87 @@
+#!/usr/bin/env bash
+# Starts the real program on an X server (run under xvfb-run) with a home of
+# its own, and checks what a user would: a window appears, a second launch on
+# the same data folder hands over and exits, the program quits cleanly when
+# told to, and a killed instance does not lock the folder for the next one.
+set -euo pipefail
+
+app=$1
+scratch=$(mktemp -d)
+pids=()
+cleanup() {
+  for pid in "${pids[@]}"; do kill -9 "$pid" 2>/dev/null || true; done
+  rm -rf "$scratch"
+}
+trap cleanup EXIT
+
+export HOME=$scratch/home
+export XDG_CONFIG_HOME=$HOME/.config XDG_DATA_HOME=$HOME/.local/share
+export XDG_RUNTIME_DIR=$scratch/runtime
+export LC_ALL=C.UTF-8
+unset QT_QPA_PLATFORM
+mkdir -p "$XDG_CONFIG_HOME/Penwick" "$XDG_RUNTIME_DIR" "$HOME/data"
+chmod 700 "$XDG_RUNTIME_DIR"
+
+fail() { echo "smoke test: $*" >&2; exit 1; }
+
+# Waits up to ten seconds for a top-level window whose title starts with $1.
+wait_for_window() {
+  for _ in $(seq 100); do
+    xwininfo -root -tree | grep -q "\"$1" && return 0
+    sleep 0.1
+  done
+  xwininfo -root -tree >&2
+  fail "no window \"$1\" appeared"
+}
+
+start() {
+  "$app" "$@" 2>>"$scratch/stderr.log" &
+  pids+=($!)
+  last_pid=$!
+}
+
+# Quits the instance with SIGTERM, as a session ending would, and expects
+# an orderly exit.
+stop() {
+  kill -TERM "$1"
+  local status=0
+  wait "$1" || status=$?
+  [[ $status -eq 0 ]] || fail "exit status $status after SIGTERM"
+}
+
+# Locked with a password: the prompt is the only window, and the program
+# still serves later launches.
+cat >"$XDG_CONFIG_HOME/Penwick/Penwick.conf" <<CONF
+[General]
+Version=1
+DataPath=$HOME/data
+se-XCMD=pWNtzVs0HB6cU
+CONF
+
+start
+first=$last_pid
+wait_for_window "Password"
+[[ -e $HOME/data/.penwick.lock ]] || fail "the data folder is not locked"
+
+timeout 15 "$app" "$HOME/data/Data_2006_5.Penwick" || fail "the second launch did not hand over"
+kill -0 "$first" 2>/dev/null || fail "the first instance ended when the second launched"
+[[ ! -e $HOME/data/Data_2006_5.Penwick ]] || fail "a month was read before the password was given"
+
+stop "$first"
+[[ ! -e $HOME/data/.penwick.lock ]] || fail "the lock outlived the program"
+
+# A killed instance leaves its lock behind; the next launch takes over.
+start
+killed=$last_pid
+wait_for_window "Password"
+kill -KILL "$killed"
+wait "$killed" 2>/dev/null || true
+[[ -e $HOME/data/.penwick.lock ]] || fail "expected a stale lock after SIGKILL"
+start
+wait_for_window "Password"
+stop "$last_pid"
+
+if grep -iE 'warning|critical|fatal' "$scratch/stderr.log" | grep -v 'XDG_RUNTIME_DIR' >&2; then
+  fail "the program complained"
+fi
+echo "smoke test passed"

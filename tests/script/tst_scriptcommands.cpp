@@ -1,0 +1,153 @@
+#include "TestDataFolder.h"
+#include "TestHelpers.h"
+
+#include "ledger/KController.h"
+#include "model/MonthDataList.h"
+#include "script/ScriptCommands.h"
+
+#include <QDate>
+#include <QFileInfo>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class TestScriptCommands : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void newRecordIsBookedAtOnce();
+    void newRecordFollowsTheSettersRules();
+    void newRecordReportsLaterEdits();
+    void elementsByIdNameAndIndex();
+    void dataListsLoadsTheWholeFolder();
+    void sortingByScript();
+    void recordPropertiesForScripts();
+
+private:
+    TestDataFolder m_home;
+    std::unique_ptr<KController> m_controller;
+};
+
+void TestScriptCommands::init()
+{
+    m_home.freshDataFolder();
+    m_controller = std::make_unique<KController>();
+    m_controller->readListPreference();
+}
+
+void TestScriptCommands::newRecordIsBookedAtOnce()
+{
+    const QDate today = QDate::currentDate();
+    const auto record = ScriptCommands::makeNewPaymentData(
+        *m_controller, {{u"amount"_s, 500}, {u"category"_s, 2}});
+    QVERIFY(record);
+    QCOMPARE(record->category(), 2);
+    QCOMPARE(record->amount(), 500.f);
+    QCOMPARE(QDate(record->year(), record->month(), record->date()), today);
+    const QString file = m_controller->filePathForYear(today.year(), today.month());
+    QVERIFY(QFileInfo::exists(file));
+    QVERIFY(!m_controller->monthListForYear(today.year(), today.month())->isEdited());
+}
+
+void TestScriptCommands::newRecordFollowsTheSettersRules()
+{
+    // Month 14 is clamped to December; the day is normalised in that month.
+    const auto december = ScriptCommands::makeNewPaymentData(
+        *m_controller, {{u"year"_s, 2006}, {u"month"_s, 14}, {u"date"_s, 3}, {u"amount"_s, 1.5}});
+    QVERIFY(december);
+    QCOMPARE(december->month(), 12);
+    QVERIFY(QFileInfo::exists(m_controller->filePathForYear(2006, 12)));
+    QCOMPARE(detailsOf(m_controller->listForYear(2006, 12)->dataListArray()).size(), 1);
+
+    // The day is set after year and month: 31 in a 30-day month wraps to 1.
+    const auto april = ScriptCommands::makeNewPaymentData(
+        *m_controller, {{u"date"_s, 31}, {u"month"_s, 4}, {u"year"_s, 2007}});
+    QCOMPARE(april->date(), 1);
+    QCOMPARE(april->month(), 4);
+}
+
+void TestScriptCommands::newRecordReportsLaterEdits()
+{
+    const auto record = ScriptCommands::makeNewPaymentData(
+        *m_controller, {{u"year"_s, 2006}, {u"month"_s, 5}, {u"date"_s, 3}});
+    const auto may = m_controller->monthListForYear(2006, 5);
+    QVERIFY(!may->isEdited());
+    record->setAmount(42);
+    QVERIFY(may->isEdited());
+}
+
+void TestScriptCommands::elementsByIdNameAndIndex()
+{
+    const auto byId = ScriptCommands::valueWithID(*m_controller, 200605);
+    QCOMPARE(byId->year(), 2006);
+    QCOMPARE(byId->month(), 5);
+    QCOMPARE(ScriptCommands::uniqueID(*byId), 200605);
+    QCOMPARE(ScriptCommands::valueWithName(*m_controller, u"200605"_s), byId);
+
+    // By index the year is always 2004.
+    const auto first = ScriptCommands::valueAtIndex(*m_controller, 0);
+    QCOMPARE(first->year(), 2004);
+    QCOMPARE(first->month(), 1);
+    QCOMPARE(ScriptCommands::valueAtIndex(*m_controller, 11)->month(), 12);
+    QVERIFY(!ScriptCommands::valueAtIndex(*m_controller, 12));
+    QVERIFY(!ScriptCommands::valueWithID(*m_controller, 200613));
+}
+
+void TestScriptCommands::dataListsLoadsTheWholeFolder()
+{
+    for (int month : {7, 2})
+        ScriptCommands::makeNewPaymentData(*m_controller, {{u"year"_s, 2005}, {u"month"_s, month}});
+    ScriptCommands::makeNewPaymentData(*m_controller, {{u"year"_s, 2004}, {u"month"_s, 11}});
+
+    KController fresh;
+    fresh.listForYear(2010, 1);
+    QList<int> ids;
+    for (const auto &list : ScriptCommands::dataLists(fresh))
+        ids.append(ScriptCommands::uniqueID(*list));
+    QCOMPARE(ids, (QList<int>{200411, 200502, 200507, 201001}));
+}
+
+void TestScriptCommands::sortingByScript()
+{
+    const auto may = m_controller->monthListForYear(2006, 5);
+    for (float amount : {300.f, 100.f, 200.f}) {
+        auto record = std::make_shared<PaymentData>(2006, 5, 1, 0, QString::number(amount), amount, 0);
+        may->addData({record});
+    }
+    const auto amounts = [&] {
+        QStringList texts = detailsOf(may->extractedArray());
+        return texts.join(u' ');
+    };
+    ScriptCommands::sortWithASCommand(*may, {{u"sortKey"_s, u"Amount"_s}, {u"descend"_s, true}});
+    QCOMPARE(amounts(), u"300 200 100"_s);
+    // Both flags: ascending wins.
+    ScriptCommands::sortWithASCommand(
+        *may, {{u"sortKey"_s, u"Amount"_s}, {u"descend"_s, true}, {u"ascend"_s, true}});
+    QCOMPARE(amounts(), u"100 200 300"_s);
+    // Neither: the current order turns round.
+    ScriptCommands::sortWithASCommand(*may, {{u"sortKey"_s, u"Amount"_s}});
+    QCOMPARE(amounts(), u"300 200 100"_s);
+    // No key: nothing happens.
+    ScriptCommands::sortWithASCommand(*may, {{u"ascend"_s, true}});
+    QCOMPARE(amounts(), u"300 200 100"_s);
+}
+
+void TestScriptCommands::recordPropertiesForScripts()
+{
+    PaymentData record(2006, 5, 3, 1, u"Bread\tand milk"_s, 12.75f, 0);
+    const QVariantMap properties = ScriptCommands::recordProperties(record);
+    QCOMPARE(properties.value(u"year"_s).toInt(), 2006);
+    QCOMPARE(properties.value(u"month"_s).toInt(), 5);
+    QCOMPARE(properties.value(u"date"_s).toInt(), 3);
+    QCOMPARE(properties.value(u"category"_s).toInt(), 1);
+    QCOMPARE(properties.value(u"details"_s).toString(), u"Bread\tand milk"_s);
+    QCOMPARE(properties.value(u"amount"_s).toFloat(), 12.75f);
+    QCOMPARE(properties.value(u"payway"_s).toInt(), 0);
+    QCOMPARE(properties.value(u"description"_s).toString(), record.descriptionForScript());
+}
+
+QTEST_GUILESS_MAIN(TestScriptCommands)
+#include "tst_scriptcommands.moc"
