@@ -24,6 +24,9 @@ private slots:
     void elementsByIdNameAndIndex();
     void dataListsLoadsTheWholeFolder();
     void sortingByScript();
+    void extractionKeysFromScript_data();
+    void extractionKeysFromScript();
+    void extractionByScriptSelectsRecords();
     void recordPropertiesForScripts();
 
 private:
@@ -133,6 +136,63 @@ void TestScriptCommands::sortingByScript()
     // No key: nothing happens.
     ScriptCommands::sortWithASCommand(*may, {{u"ascend"_s, true}});
     QCOMPARE(amounts(), u"300 200 100"_s);
+}
+
+void TestScriptCommands::extractionKeysFromScript_data()
+{
+    QTest::addColumn<QVariantMap>("arguments");
+    QTest::addColumn<QList<int>>("categories");
+    QTest::addColumn<QList<int>>("days");
+
+    const QList<int> none{-1};
+    QTest::newRow("one number") << QVariantMap{{u"Category"_s, 3}} << QList<int>{3} << none;
+    QTest::newRow("text of two numbers")
+        << QVariantMap{{u"Category"_s, u"2 5"_s}} << QList<int>{2, 5} << none;
+    QTest::newRow("text with a comma")
+        << QVariantMap{{u"Category"_s, u"2,11"_s}} << QList<int>{2, 11} << none;
+    QTest::newRow("a list") << QVariantMap{{u"Category"_s, QVariantList{1, u"4"_s}}}
+                            << QList<int>{1, 4} << none;
+    QTest::newRow("days") << QVariantMap{{u"Date"_s, u"1,5,10-12"_s}} << none
+                          << QList<int>{1, 5, 10, 11, 12};
+}
+
+void TestScriptCommands::extractionKeysFromScript()
+{
+    QFETCH(QVariantMap, arguments);
+    QFETCH(QList<int>, categories);
+    QFETCH(QList<int>, days);
+
+    const ExtractKeyDict keys = ScriptCommands::extractKeyDictFromScript(arguments, 14);
+    // Income is the last category, always.
+    QCOMPARE(keys.incomeNumber, std::optional<int>(13));
+    QCOMPARE(keys.category.value_or(QList<int>{-1}), categories);
+    QCOMPARE(keys.date.value_or(QList<int>{-1}), days);
+    QVERIFY(!keys.payway && !keys.details && !keys.amountMax && !keys.amountMin);
+}
+
+void TestScriptCommands::extractionByScriptSelectsRecords()
+{
+    const auto may = m_controller->monthListForYear(2006, 5);
+    const int income = m_controller->categoryList().size() - 1;
+    may->addData({std::make_shared<PaymentData>(2006, 5, 1, 2, u"Bread"_s, 3.5f, 0),
+                  std::make_shared<PaymentData>(2006, 5, 10, 5, u"Bus pass"_s, 60, 1),
+                  std::make_shared<PaymentData>(2006, 5, 11, 2, u"Cheese and bread"_s, 12, 0),
+                  std::make_shared<PaymentData>(2006, 5, 25, income, u"Salary"_s, 3000, 1)});
+
+    ScriptCommands::extractWithASCommand(*may, {{u"Category"_s, u"2 5"_s}, {u"Date"_s, u"5-12"_s}},
+                                         m_controller->categoryList().size());
+    QCOMPARE(detailsOf(may->extractedArray()), (QStringList{u"Bus pass"_s, u"Cheese and bread"_s}));
+    QCOMPARE(may->extractedTotal(), 72.f);
+
+    ScriptCommands::extractWithASCommand(
+        *may, {{u"Details"_s, u"bread Salary"_s}, {u"AmountMin"_s, 10}},
+        m_controller->categoryList().size());
+    QCOMPARE(detailsOf(may->extractedArray()), (QStringList{u"Cheese and bread"_s, u"Salary"_s}));
+    QCOMPARE(may->extractedIncomeTotal(), 3000.f);
+    QCOMPARE(may->extractedTotal(), 12.f);
+
+    ScriptCommands::cancelExtractWithASCommand(*may);
+    QCOMPARE(may->extractedArray().size(), 4);
 }
 
 void TestScriptCommands::recordPropertiesForScripts()

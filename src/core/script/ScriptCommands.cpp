@@ -2,6 +2,8 @@
 
 #include "ledger/KController.h"
 #include "model/DataList.h"
+#include "model/NumberValue.h"
+#include "search/StringUtility.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -32,19 +34,19 @@ PaymentDataPtr makeNewPaymentData(KController &controller, const QVariantMap &fi
     // In this order: a day is normalised through the year and month as they
     // stand when it is set.
     if (const auto v = fields.value(u"year"_s); v.isValid())
-        record->setYear(v.toInt());
+        record->setYear(integerValueOf(v));
     if (const auto v = fields.value(u"month"_s); v.isValid())
-        record->setMonth(v.toInt());
+        record->setMonth(integerValueOf(v));
     if (const auto v = fields.value(u"date"_s); v.isValid())
-        record->setDate(v.toInt());
+        record->setDate(integerValueOf(v));
     if (const auto v = fields.value(u"category"_s); v.isValid())
-        record->setCategory(v.toInt());
+        record->setCategory(integerValueOf(v));
     if (const auto v = fields.value(u"details"_s); v.isValid())
         record->setDetails(v.toString());
     if (const auto v = fields.value(u"amount"_s); v.isValid())
-        record->setAmount(v.toFloat());
+        record->setAmount(floatValueOf(v));
     if (const auto v = fields.value(u"payway"_s); v.isValid())
-        record->setPayway(v.toInt());
+        record->setPayway(integerValueOf(v));
     // Booked, it reports later edits like any other record.
     record->setInitializing(false);
     if (!controller.addData({record}))
@@ -77,6 +79,50 @@ std::shared_ptr<DataList> valueWithName(KController &controller, const QString &
 int uniqueID(const DataList &list)
 {
     return list.year() * 100 + list.month();
+}
+
+namespace {
+// A number is one index; a text holds indices separated like keywords; a
+// list holds them one by one.
+QList<int> indicesOf(const QVariant &value)
+{
+    QList<int> indices;
+    if (value.typeId() == QMetaType::QString) {
+        for (const QString &word : separateStringKeyToArray(value.toString()))
+            indices.append(integerValueOf(QStringView(word)));
+    } else if (value.typeId() == QMetaType::QVariantList) {
+        for (const QVariant &item : value.toList())
+            indices.append(integerValueOf(item));
+    } else {
+        indices.append(integerValueOf(value));
+    }
+    return indices;
+}
+} // namespace
+
+ExtractKeyDict extractKeyDictFromScript(const QVariantMap &arguments, int categoryCount)
+{
+    ExtractKeyDict keys;
+    keys.incomeNumber = categoryCount - 1;
+    if (const auto v = arguments.value(u"Details"_s); v.isValid())
+        keys.details = separateStringKeyToArray(v.toString());
+    if (const auto v = arguments.value(u"Date"_s); v.isValid())
+        keys.date = separateDateKeyToArray(v.toString());
+    if (const auto v = arguments.value(u"Payway"_s); v.isValid())
+        keys.payway = indicesOf(v);
+    if (const auto v = arguments.value(u"Category"_s); v.isValid())
+        keys.category = indicesOf(v);
+    if (const auto v = arguments.value(u"AmountMax"_s); v.isValid())
+        keys.amountMax = floatValueOf(v);
+    if (const auto v = arguments.value(u"AmountMin"_s); v.isValid())
+        keys.amountMin = floatValueOf(v);
+    return keys;
+}
+
+void extractWithASCommand(DataList &list, const QVariantMap &arguments, int categoryCount)
+{
+    list.setextractKeyDict(extractKeyDictFromScript(arguments, categoryCount));
+    list.extractList();
 }
 
 void sortWithASCommand(DataList &list, const QVariantMap &arguments)

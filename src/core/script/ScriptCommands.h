@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ExtractKeyDict.h"
 #include "model/PaymentData.h"
 
 #include <QVariantMap>
@@ -42,6 +43,14 @@ std::shared_ptr<DataList> valueWithID(KController &controller, int id);
 std::shared_ptr<DataList> valueWithName(KController &controller, const QString &name);
 // The ID of a list: year * 100 + month.
 int uniqueID(const DataList &list);
+
+// The search keys of a script's arguments: "Details" (words), "Date" (days
+// such as "1,5,10-12"), "Category" and "Payway" (a number, or numbers in a
+// text), "AmountMax" and "AmountMin". Keys not given do not restrict. The
+// last of `categoryCount` categories is income, whatever the script says.
+ExtractKeyDict extractKeyDictFromScript(const QVariantMap &arguments, int categoryCount);
+// Searches the list by those keys.
+void extractWithASCommand(DataList &list, const QVariantMap &arguments, int categoryCount);
 
 // Sorts the list's selected records by the argument "sortKey" (a record key
 // such as "Amount"): "ascend" smallest first, else "descend" largest first,

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QHash>
+#include <QObject>
+#include <QString>
+
+class DataList;
+class KAppController;
+class ScriptDataList;
+
+// The program's scripting service on a D-Bus connection: the application
+// object and one object per month list, made when a script first reaches
+// that month. Everything is forwarded to the core's script commands and the
+// application controller; while the program waits for its password every
+// call fails with an error saying so.
+class ScriptService : public QObject
+{
+    Q_OBJECT
+
+public:
+    static inline const QString ServiceName = QStringLiteral("org.penwick.Penwick");
+    static inline const QString ApplicationPath = QStringLiteral("/org/penwick/Penwick");
+    static inline const QString LockedError = QStringLiteral("org.penwick.Penwick.Error.Locked");
+    static inline const QString NoSuchListError = QStringLiteral("org.penwick.Penwick.Error.NoSuchList");
+    static inline const QString BookingFailedError = QStringLiteral("org.penwick.Penwick.Error.BookingFailed");
+
+    ScriptService(KAppController *app, const QDBusConnection &connection, QObject *parent = nullptr);
+    ~ScriptService() override;
+
+    // Registers the objects and takes the service name. False, with the
+    // reason in errorString(), when the bus refused (another instance on
+    // another data folder may own the name).
+    bool start();
+    QString errorString() const { return m_errorString; }
+
+    KAppController *app() const { return m_app; }
+    // The object path of a list, registering its object on first use.
+    QString pathForList(const DataList &list);
+
+private:
+    KAppController *m_app;
+    QDBusConnection m_connection;
+    QHash<int, ScriptDataList *> m_lists;
+    QString m_errorString;
+};
