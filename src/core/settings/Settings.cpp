@@ -106,12 +106,12 @@ void Settings::setCommonDescriptionsDB(const QVariantMap &records)
     m_settings->setValue(SettingsKeys::CommonDescriptionsDB, records);
 }
 
-QByteArray Settings::windowGeometry(QStringView name) const
+QByteArray Settings::windowGeometry(QAnyStringView name) const
 {
     return m_settings->value(name).toByteArray();
 }
 
-void Settings::setWindowGeometry(QStringView name, const QByteArray &geometry)
+void Settings::setWindowGeometry(QAnyStringView name, const QByteArray &geometry)
 {
     m_settings->setValue(name, geometry);
 }

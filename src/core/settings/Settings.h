@@ -53,8 +53,8 @@ public:
     void setCommonDescriptionsDB(const QVariantMap &records);
 
     // A window's saved geometry, under the window's own name (SettingsKeys).
-    QByteArray windowGeometry(QStringView name) const;
-    void setWindowGeometry(QStringView name, const QByteArray &geometry);
+    QByteArray windowGeometry(QAnyStringView name) const;
+    void setWindowGeometry(QAnyStringView name, const QByteArray &geometry);
 
 private:
     std::unique_ptr<QSettings> m_settings;
