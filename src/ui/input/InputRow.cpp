@@ -12,6 +12,8 @@
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
 
+#include <algorithm>
+
 namespace {
 
 const char TagProperty[] = "tag";
@@ -28,18 +30,6 @@ int lineEditWidth(const QWidget *reference, const QString &text)
     const QSize contents(metrics.horizontalAdvance(text) + 4, metrics.height());
     return reference->style()
         ->sizeFromContents(QStyle::CT_LineEdit, &option, contents, reference)
-        .width();
-}
-
-// The width of a pop-up button showing about this many characters.
-int popUpWidth(const QWidget *reference, int characters)
-{
-    QStyleOptionComboBox option;
-    option.initFrom(reference);
-    const QFontMetrics metrics = reference->fontMetrics();
-    const QSize contents(metrics.averageCharWidth() * characters, metrics.height());
-    return reference->style()
-        ->sizeFromContents(QStyle::CT_ComboBox, &option, contents, reference)
         .width();
 }
 
@@ -63,13 +53,29 @@ InputRow::ColumnWidths InputRow::columnWidths(const QWidget *reference)
     return {lineEditWidth(reference, QStringLiteral("000")),
             reference->fontMetrics().horizontalAdvance(u'/'),
             lineEditWidth(reference, QStringLiteral("000")),
-            popUpWidth(reference, 14),
-            lineEditWidth(reference, QStringLiteral("0,000,000.00")),
-            popUpWidth(reference, 12)};
+            lineEditWidth(reference, QStringLiteral("0,000,000.00"))};
+}
+
+int InputRow::popUpWidth(const QWidget *reference, const QStringList &items)
+{
+    const QFontMetrics metrics = reference->fontMetrics();
+    int widest = 0;
+    for (const QString &item : items)
+        widest = std::max(widest, metrics.horizontalAdvance(item));
+    // Very long names are cut in the button; the open list shows them whole.
+    const int characters = metrics.averageCharWidth();
+    widest = std::clamp(widest, 8 * characters, 24 * characters);
+
+    QStyleOptionComboBox option;
+    option.initFrom(reference);
+    return reference->style()
+        ->sizeFromContents(QStyle::CT_ComboBox, &option, QSize(widest, metrics.height()), reference)
+        .width();
 }
 
 InputRow::InputRow(int row, QAbstractItemModel *descriptions, QWidget *parent)
     : QWidget(parent)
+    , m_row(row)
 {
     const ColumnWidths widths = columnWidths(this);
 
@@ -90,7 +96,6 @@ InputRow::InputRow(int row, QAbstractItemModel *descriptions, QWidget *parent)
     tag(day, row, Day);
 
     auto *category = new KeyPopUpButton(this);
-    category->setFixedWidth(widths.category);
     category->setAccessibleName(tr("Category, row %1").arg(row));
     tag(category, row, Category);
 
@@ -113,7 +118,6 @@ InputRow::InputRow(int row, QAbstractItemModel *descriptions, QWidget *parent)
     tag(amount, row, Amount);
 
     auto *payway = new LastPopUpButton(this);
-    payway->setFixedWidth(widths.payway);
     payway->setAccessibleName(tr("Payway, row %1").arg(row));
     tag(payway, row, Payway);
 
@@ -127,6 +131,12 @@ InputRow::InputRow(int row, QAbstractItemModel *descriptions, QWidget *parent)
     layout->addWidget(description, 1);
     layout->addWidget(amount);
     layout->addWidget(payway);
+}
+
+void InputRow::setPopUpWidths(int category, int payway)
+{
+    controlWithTag(tagFor(m_row, Category))->setFixedWidth(category);
+    controlWithTag(tagFor(m_row, Payway))->setFixedWidth(payway);
 }
 
 int InputRow::tagOf(const QObject *control)

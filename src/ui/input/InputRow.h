@@ -16,17 +16,19 @@ public:
     enum Role { Category = 1, Description, Amount, Payway, Month, Day, Slash };
 
     // Widths of the fixed columns, shared with the window's column titles so
-    // that they line up; the description takes the rest.
+    // that they line up; the description takes the rest. The pop-ups are as
+    // wide as their lists need (setPopUpWidths).
     struct ColumnWidths
     {
         int month;
         int slash;
         int day;
-        int category;
         int amount;
-        int payway;
     };
     static ColumnWidths columnWidths(const QWidget *reference);
+    // The width of a pop-up button that shows the longest of the items,
+    // within sensible bounds.
+    static int popUpWidth(const QWidget *reference, const QStringList &items);
     static constexpr int Spacing = 6;
 
     // The description box of every row shares the one list of remembered
@@ -37,6 +39,7 @@ public:
     // The tag of a control of a row; 0 for anything else.
     static int tagOf(const QObject *control);
     QWidget *controlWithTag(int tag) const;
+    void setPopUpWidths(int category, int payway);
 
     // The year of the row's date (its fields show only month and day), so
     // that rows keep their own year when the window's date moves on.
@@ -50,5 +53,6 @@ public:
     bool amountFromMemory = false;
 
 private:
+    int m_row;
     int m_year = 0;
 };

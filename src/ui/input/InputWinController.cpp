@@ -146,10 +146,12 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     headerLayout->addWidget(columnTitle(
         tr("Date"), m_header, widths.month + widths.slash + widths.day + 2 * InputRow::Spacing,
         Qt::AlignHCenter));
-    headerLayout->addWidget(columnTitle(tr("Category"), m_header, widths.category));
+    m_categoryTitle = columnTitle(tr("Category"), m_header);
+    headerLayout->addWidget(m_categoryTitle);
     headerLayout->addWidget(columnTitle(tr("Details"), m_header), 1);
     headerLayout->addWidget(columnTitle(tr("Amount"), m_header, widths.amount, Qt::AlignRight));
-    headerLayout->addWidget(columnTitle(tr("Payway"), m_header, widths.payway));
+    m_paywayTitle = columnTitle(tr("Payway"), m_header);
+    headerLayout->addWidget(m_paywayTitle);
 
     m_inputView = new QWidget;
     m_rowsLayout = new QVBoxLayout(m_inputView);
@@ -168,7 +170,7 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     m_sumTF = new QLabel(this);
     m_sumTF->setObjectName(QStringLiteral("sumTF"));
     m_sumTF->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_sumTF->setMinimumWidth(widths.amount);
+    m_sumTF->setFixedWidth(widths.amount);
     m_sumTF->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_sumTF->setAccessibleName(tr("Spending total"));
     QFont sumFont = m_sumTF->font();
@@ -190,11 +192,17 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     connect(m_inputButton, &QPushButton::clicked, this, &InputWinController::inputDataAndShowList);
     connect(m_OKButton, &QPushButton::clicked, this, &InputWinController::inputData);
 
-    auto *sumRow = new QHBoxLayout;
+    // The total sits under the amounts, like the titles over them.
+    m_sumRow = new QWidget(this);
+    m_sumTrailer = new QWidget(m_sumRow);
+    auto *sumRow = new QHBoxLayout(m_sumRow);
+    sumRow->setContentsMargins(0, 0, 0, 0);
+    sumRow->setSpacing(InputRow::Spacing);
     sumRow->addWidget(m_addRowButton);
     sumRow->addStretch(1);
     sumRow->addWidget(sumLabel);
     sumRow->addWidget(m_sumTF);
+    sumRow->addWidget(m_sumTrailer);
     auto *buttonRow = new QHBoxLayout;
     buttonRow->addStretch(1);
     buttonRow->addWidget(m_cancelButton);
@@ -206,7 +214,7 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     layout->addSpacing(InputRow::Spacing);
     layout->addWidget(m_header);
     layout->addWidget(m_scrollArea, 1);
-    layout->addLayout(sumRow);
+    layout->addWidget(m_sumRow);
     layout->addLayout(buttonRow);
 
     // Tab order: the date, the rows (linked as they are added), the buttons.
@@ -217,7 +225,6 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     setTabOrder(m_inputButton, m_OKButton);
     for (int i = 0; i < FixedRows; ++i)
         addRow();
-    m_scrollArea->setMinimumWidth(m_inputView->minimumSizeHint().width());
 
     // Queued, so that the application controller has reloaded the lists by
     // the time the pop-ups read them.
@@ -227,8 +234,13 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     setInputDate(QDate::currentDate());
     setPopupButtonTitle();
     m_afterInputWork = 0;
-    if (!restoreGeometry(Settings().windowGeometry(SettingsKeys::InputWindow)))
-        resize(sizeHint().expandedTo(QSize(fontMetrics().averageCharWidth() * 100, 0)));
+    // Room for eight rows at first; the window remembers what the user makes
+    // of it.
+    if (!restoreGeometry(Settings().windowGeometry(SettingsKeys::InputWindow))) {
+        const int rowHeight = m_rows.constFirst()->sizeHint().height() + m_rowsLayout->spacing();
+        resize(std::max(sizeHint().width(), fontMetrics().averageCharWidth() * 130),
+               sizeHint().height() + 5 * rowHeight);
+    }
     m_dateTF->setFocus();
 }
 
@@ -563,6 +575,7 @@ InputRow *InputWinController::addRow()
     setTabOrder(payway, m_addRowButton);
 
     fillPopUps(row);
+    row->setPopUpWidths(m_categoryWidth, m_paywayWidth);
     clearDataOfView(row);
     return row;
 }
@@ -629,10 +642,26 @@ float InputWinController::spendingTotal() const
 
 void InputWinController::setPopupButtonTitle()
 {
+    updateColumnWidths();
     for (InputRow *row : std::as_const(m_rows))
         fillPopUps(row);
     changeDefaultButton();
     calcurateSum();
+}
+
+void InputWinController::updateColumnWidths()
+{
+    QStringList categories = m_controller->categoryList();
+    categories.append(QCoreApplication::translate("Localizable", "Category"));
+    m_categoryWidth = InputRow::popUpWidth(this, categories);
+    m_paywayWidth = InputRow::popUpWidth(this, m_controller->paywayList());
+    m_categoryTitle->setFixedWidth(m_categoryWidth);
+    m_paywayTitle->setFixedWidth(m_paywayWidth);
+    m_sumTrailer->setFixedWidth(m_paywayWidth);
+    for (InputRow *row : std::as_const(m_rows))
+        row->setPopUpWidths(m_categoryWidth, m_paywayWidth);
+    // Never narrower than a row, so nothing needs scrolling sideways.
+    m_scrollArea->setMinimumWidth(m_inputView->minimumSizeHint().width());
 }
 
 void InputWinController::fillPopUps(InputRow *row)
@@ -764,6 +793,7 @@ bool InputWinController::eventFilter(QObject *watched, QEvent *event)
             ? m_scrollArea->verticalScrollBar()->sizeHint().width()
             : 0;
         m_header->layout()->setContentsMargins(0, 0, right, 0);
+        m_sumRow->layout()->setContentsMargins(0, 0, right, 0);
     }
     return QWidget::eventFilter(watched, event);
 }

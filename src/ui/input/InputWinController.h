@@ -94,6 +94,7 @@ private:
     void removeInputViews();
     void clearDataOfView(InputRow *row);
     void fillPopUps(InputRow *row);
+    void updateColumnWidths();
     void changeDefaultButton();
     void setInputDate(const QDate &date);
     void showTopDate(const QDate &date);
@@ -125,6 +126,12 @@ private:
     QToolButton *m_previousDayButton;
     QToolButton *m_nextDayButton;
     QWidget *m_header;
+    QLabel *m_categoryTitle;
+    QLabel *m_paywayTitle;
+    QWidget *m_sumRow;
+    QWidget *m_sumTrailer;
+    int m_categoryWidth = 0;
+    int m_paywayWidth = 0;
     QScrollArea *m_scrollArea;
     QWidget *m_inputView;
     QVBoxLayout *m_rowsLayout;
