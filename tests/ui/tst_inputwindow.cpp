@@ -1,4 +1,5 @@
 #include "TestDataFolder.h"
+#include "TestHelpers.h"
 
 #include "entry/DescriptionMemory.h"
 #include "input/InputRow.h"
@@ -60,6 +61,7 @@ private slots:
     void returnKeyFollowsTheSetting();
     void steppingTheDateMovesOnlyEmptyRows();
     void rememberedDescriptionFillsTheRow();
+    void monthThatCannotBeWrittenKeepsItsRows();
 
 private:
     template <typename T>
@@ -423,5 +425,36 @@ void TestInputWindow::rememberedDescriptionFillsTheRow()
     QCOMPARE(amount(3)->text(), u"950"_s);
 }
 
+void TestInputWindow::monthThatCannotBeWrittenKeepsItsRows()
+{
+    // May's file is damaged: its month is read-only and takes nothing.
+    QFile damaged(monthFile(2006, 5));
+    QVERIFY(damaged.open(QIODevice::WriteOnly));
+    damaged.write("not a month");
+    damaged.close();
+    QSignalSpy refusals(m_controller.get(), &KController::monthFileNotWritten);
+
+    category(1)->setCurrentIndex(Groceries);
+    typeInto(description(1), u"Market"_s);
+    typeInto(amount(1), u"1200"_s);
+    category(2)->setCurrentIndex(Groceries);
+    control<QLineEdit>(2, InputRow::Month)->setText(u"6"_s);
+    typeInto(amount(2), u"300"_s);
+    // Return in a description box books as well.
+    description(2)->setFocus();
+    QTest::keyClick(description(2), Qt::Key_Return);
+
+    QCOMPARE(refusals.count(), 1);
+    QCOMPARE(m_controller->monthListForYear(2006, 6)->dataListArray().size(), 1);
+    // The window stays open with May's row as it was; June's row is gone.
+    QVERIFY(m_window->isVisible());
+    QCOMPARE(description(1)->currentText(), u"Market"_s);
+    QCOMPARE(amount(1)->text(), u"1200"_s);
+    QCOMPARE(amount(2)->text(), QString());
+    QCOMPARE(sum(), QLocale().toString(1200));
+    QCOMPARE(readBytes(monthFile(2006, 5)), QByteArray("not a month"));
+}
+
 QTEST_MAIN(TestInputWindow)
 #include "tst_inputwindow.moc"
+

@@ -35,6 +35,7 @@ public:
     // descriptions.
     InputRow(int row, QAbstractItemModel *descriptions, QWidget *parent);
 
+    int row() const { return m_row; }
     static int tagFor(int row, Role role) { return 10 * row + role; }
     // The tag of a control of a row; 0 for anything else.
     static int tagOf(const QObject *control);

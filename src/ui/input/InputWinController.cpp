@@ -94,8 +94,7 @@ QToolButton *dayButton(Qt::ArrowType arrow, const QString &name, const QKeySeque
 template <typename T>
 T *InputWinController::control(const InputRow *row, int role) const
 {
-    return qobject_cast<T *>(getControlWithTag(
-        InputRow::tagFor(int(m_rows.indexOf(row)) + 1, InputRow::Role(role))));
+    return qobject_cast<T *>(row->controlWithTag(InputRow::tagFor(row->row(), InputRow::Role(role))));
 }
 
 InputWinController::InputWinController(KController *controller, QWidget *parent)
