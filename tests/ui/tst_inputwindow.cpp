@@ -7,7 +7,10 @@
 #include "ledger/DataFolder.h"
 #include "ledger/KController.h"
 #include "model/MonthDataList.h"
+#include "model/Notifications.h"
 #include "settings/Settings.h"
+#include "settings/SettingsKeys.h"
+#include "storage/ListFile.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -62,6 +65,7 @@ private slots:
     void steppingTheDateMovesOnlyEmptyRows();
     void rememberedDescriptionFillsTheRow();
     void monthThatCannotBeWrittenKeepsItsRows();
+    void popUpsFollowChangedLists();
 
 private:
     template <typename T>
@@ -194,6 +198,7 @@ void TestInputWindow::tabPastTheLastRowAddsOne()
 
     // Closing leaves the three fixed rows, and the third is last again.
     m_window->close();
+    QVERIFY(!Settings().windowGeometry(SettingsKeys::InputWindow).isEmpty());
     QCOMPARE(m_window->numberOfRows(), 3);
     QVERIFY(!m_window->getControlWithTag(41));
     showWindow();
@@ -453,6 +458,27 @@ void TestInputWindow::monthThatCannotBeWrittenKeepsItsRows()
     QCOMPARE(amount(2)->text(), QString());
     QCOMPARE(sum(), QLocale().toString(1200));
     QCOMPARE(readBytes(monthFile(2006, 5)), QByteArray("not a month"));
+}
+
+void TestInputWindow::popUpsFollowChangedLists()
+{
+    category(1)->setCurrentIndex(EatingOut);
+    category(2)->setCurrentIndex(Groceries);
+    typeInto(amount(1), u"100"_s);
+    typeInto(amount(2), u"50"_s);
+
+    // Groceries is renamed, Eating out moves: choices follow names, and the
+    // total follows the choices.
+    const QVariantList categories{u"Eating out"_s, u"Food"_s, u"Income"_s};
+    QVERIFY(ListFile::setPreferenceDataListForKey(m_home.dataFolder(), categories,
+                                                  ListFile::CategoryList));
+    m_controller->readListPreference();
+    emit Notifications::instance()->listPreferenceHasUpDated();
+    QTRY_COMPARE(category(1)->count(), 4);
+    QCOMPARE(category(1)->currentText(), u"Eating out"_s);
+    QCOMPARE(category(2)->currentIndex(), 0);
+    QCOMPARE(category(2)->itemText(0), u"Category"_s);
+    QCOMPARE(sum(), u"100"_s);
 }
 
 QTEST_MAIN(TestInputWindow)

@@ -50,6 +50,12 @@ QString amountText(double value)
     return text == u"-0" ? QStringLiteral("0") : text;
 }
 
+// The first item of every category pop-up, which stands for "no category".
+QString categoryPlaceholder()
+{
+    return QCoreApplication::translate("Localizable", "Category");
+}
+
 QString totalText(float total)
 {
     const double value = total;
@@ -651,7 +657,7 @@ void InputWinController::setPopupButtonTitle()
 void InputWinController::updateColumnWidths()
 {
     QStringList categories = m_controller->categoryList();
-    categories.append(QCoreApplication::translate("Localizable", "Category"));
+    categories.append(categoryPlaceholder());
     m_categoryWidth = InputRow::popUpWidth(this, categories);
     m_paywayWidth = InputRow::popUpWidth(this, m_controller->paywayList());
     m_categoryTitle->setFixedWidth(m_categoryWidth);
@@ -682,10 +688,9 @@ void InputWinController::fillPopUps(InputRow *row)
         box->setCurrentIndex(index);
     };
     auto *category = control<QComboBox>(row, InputRow::Category);
-    const QString placeholder = QCoreApplication::translate("Localizable", "Category");
     if (category->count() == 0)
-        category->addItem(placeholder);
-    category->setItemText(0, placeholder);
+        category->addItem(categoryPlaceholder());
+    category->setItemText(0, categoryPlaceholder());
     refill(category, m_controller->categoryList(), 1);
     refill(control<QComboBox>(row, InputRow::Payway), m_controller->paywayList(), 0);
 }
