@@ -196,6 +196,15 @@ void TestInputWindow::tabPastTheLastRowAddsOne()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
     QCOMPARE(QApplication::focusWidget(), control<QWidget>(4, InputRow::Payway));
 
+    // The buttons lie behind the date on top.
+    auto *topYear = m_window->findChildren<QLineEdit *>().value(0);
+    QCOMPARE(topYear->accessibleName(), u"Year"_s);
+    topYear->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(topYear, Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget()->objectName(), u"OKButton"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget()->objectName(), u"inputButton"_s);
+
     // Closing leaves the three fixed rows, and the third is last again.
     m_window->close();
     QVERIFY(!Settings().windowGeometry(SettingsKeys::InputWindow).isEmpty());

@@ -181,7 +181,6 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     QFont sumFont = m_sumTF->font();
     sumFont.setBold(true);
     m_sumTF->setFont(sumFont);
-    sumLabel->setBuddy(m_sumTF);
 
     m_addRowButton = new KeyButton(tr("&Add Row"), this);
     m_cancelButton = new KeyButton(tr("Cancel"), this);
@@ -228,6 +227,7 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     setTabOrder(m_addRowButton, m_cancelButton);
     setTabOrder(m_cancelButton, m_inputButton);
     setTabOrder(m_inputButton, m_OKButton);
+    updateColumnWidths();
     for (int i = 0; i < FixedRows; ++i)
         addRow();
 
@@ -238,7 +238,6 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
 
     setInputDate(QDate::currentDate());
     setPopupButtonTitle();
-    m_afterInputWork = 0;
     // Room for eight rows at first; the window remembers what the user makes
     // of it.
     if (!restoreGeometry(Settings().windowGeometry(SettingsKeys::InputWindow))) {
