@@ -51,7 +51,6 @@ class TestDescriptionMemory : public QObject
 
 private slots:
     void firstBookingGoesToTheCommonListOnly();
-    void emptyDescriptionsAreNotRemembered();
     void commonListOrdersByCountAndTiesGoToTheLatest();
     void fullCommonListKeepsRareDescriptionsRecent();
     void recentListIsNewestFirstAndHoldsFive();
@@ -77,14 +76,11 @@ void TestDescriptionMemory::firstBookingGoesToTheCommonListOnly()
     QCOMPARE(lunch.count, 1);
     QVERIFY(memory.recentDescriptions().isEmpty());
     QCOMPARE(memory.commonDescriptionsDB().value(u"Lunch"_s), lunch);
-}
 
-void TestDescriptionMemory::emptyDescriptionsAreNotRemembered()
-{
-    DescriptionMemory memory;
+    // An empty description is never remembered.
     book(memory, QString());
-    QCOMPARE(memory.numberOfItems(), 0);
-    QVERIFY(memory.commonDescriptionsDB().isEmpty());
+    QCOMPARE(memory.numberOfItems(), 1);
+    QCOMPARE(memory.commonDescriptionsDB().size(), 1);
 }
 
 void TestDescriptionMemory::commonListOrdersByCountAndTiesGoToTheLatest()

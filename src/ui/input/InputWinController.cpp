@@ -120,6 +120,9 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
                          tr("Year"));
     m_monthTF = dateField(this, widths.month, tr("Month"));
     m_dateTF = dateField(this, widths.day, tr("Day"));
+    m_yearTF->setObjectName(QStringLiteral("yearTF"));
+    m_monthTF->setObjectName(QStringLiteral("monthTF"));
+    m_dateTF->setObjectName(QStringLiteral("dateTF"));
     dateLabel->setBuddy(m_yearTF);
     m_previousDayButton = dayButton(Qt::LeftArrow, tr("Previous day"),
                                     QKeySequence(Qt::ALT | Qt::Key_Left), this);
