@@ -434,6 +434,13 @@ void TestInputWindow::rememberedDescriptionFillsTheRow()
     typeInto(description(3), u"Lunch"_s);
     QCOMPARE(category(3)->currentIndex(), EatingOut);
     QCOMPARE(amount(3)->text(), u"950"_s);
+
+    // The start of a remembered description stays what was typed.
+    m_window->makeNewInputViewFromAction();
+    typeInto(description(4), u"Lu"_s);
+    QCOMPARE(description(4)->currentText(), u"Lu"_s);
+    QCOMPARE(category(4)->currentIndex(), 0);
+    QCOMPARE(amount(4)->text(), QString());
 }
 
 void TestInputWindow::monthThatCannotBeWrittenKeepsItsRows()

@@ -104,6 +104,9 @@ InputRow::InputRow(int row, QAbstractItemModel *descriptions, QWidget *parent)
     description->setModel(descriptions);
     // What is typed is booked, not added to the list of remembered ones.
     description->setInsertPolicy(QComboBox::NoInsert);
+    // No completion: what is typed is what is booked, so "Bus" cannot turn
+    // into "Bus pass" by leaving the field. The list is one key away.
+    description->setCompleter(nullptr);
     description->setMaxVisibleItems(13);
     description->setMinimumContentsLength(12);
     description->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
