@@ -81,7 +81,7 @@ QString expandBracketOfStatement(const QString &statement, QChar open, QChar clo
             return QStringLiteral("0");
         const QString inner = text.sliced(openAt + 1, closeAt - openAt - 1);
         const QString bracketed = text.sliced(openAt, closeAt - openAt + 1);
-        // Six decimals, as "%f" writes them: (1/3)*3 is 0.999999 by design.
+        // Six decimals, as "%f" writes them: (1/3)*3 is 0.999999 on purpose.
         text.replace(bracketed,
                      QString::number(NumberUtility::numberWithCalcurationStatement(inner), 'f', 6));
     }
