@@ -255,6 +255,12 @@ InputWinController::~InputWinController()
 {
     if (isVisible())
         saveWindowGeometry();
+    // The controls outlive this part of the object, and the one with the
+    // focus still reports the end of its editing as the window goes: none of
+    // that may reach a window half destroyed.
+    const auto controls = findChildren<QObject *>();
+    for (QObject *control : controls)
+        control->disconnect(this);
 }
 
 void InputWinController::setYear(int year, int month, int date)
