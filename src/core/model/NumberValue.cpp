@@ -90,8 +90,13 @@ int integerValueOf(QStringView text)
 
 float floatValueOf(QStringView text)
 {
+    return float(doubleValueOf(text));
+}
+
+double doubleValueOf(QStringView text)
+{
     const QByteArray number = leadingNumber(text, true);
-    return number.isEmpty() ? 0.0f : float(number.toDouble());
+    return number.isEmpty() ? 0.0 : number.toDouble();
 }
 
 int integerValueOf(const QVariant &value)

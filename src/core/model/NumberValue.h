@@ -16,3 +16,4 @@ float floatValueOf(const QVariant &value);
 
 int integerValueOf(QStringView text);
 float floatValueOf(QStringView text);
+double doubleValueOf(QStringView text);

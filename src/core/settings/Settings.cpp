@@ -65,3 +65,53 @@ void Settings::setPasswordHash(const QString &hash)
 {
     m_settings->setValue(SettingsKeys::PasswordHash, hash);
 }
+
+int Settings::returnInputDefault() const
+{
+    return m_settings->value(SettingsKeys::ReturnInputDefault, 0).toInt();
+}
+
+void Settings::setReturnInputDefault(int which)
+{
+    m_settings->setValue(SettingsKeys::ReturnInputDefault, which);
+}
+
+QVariantList Settings::recentDescriptions() const
+{
+    return m_settings->value(SettingsKeys::RecentDescriptions).toList();
+}
+
+void Settings::setRecentDescriptions(const QVariantList &records)
+{
+    m_settings->setValue(SettingsKeys::RecentDescriptions, records);
+}
+
+QVariantList Settings::commonDescriptions() const
+{
+    return m_settings->value(SettingsKeys::CommonDescriptions).toList();
+}
+
+void Settings::setCommonDescriptions(const QVariantList &records)
+{
+    m_settings->setValue(SettingsKeys::CommonDescriptions, records);
+}
+
+QVariantMap Settings::commonDescriptionsDB() const
+{
+    return m_settings->value(SettingsKeys::CommonDescriptionsDB).toMap();
+}
+
+void Settings::setCommonDescriptionsDB(const QVariantMap &records)
+{
+    m_settings->setValue(SettingsKeys::CommonDescriptionsDB, records);
+}
+
+QByteArray Settings::windowGeometry(QAnyStringView name) const
+{
+    return m_settings->value(name).toByteArray();
+}
+
+void Settings::setWindowGeometry(QAnyStringView name, const QByteArray &geometry)
+{
+    m_settings->setValue(name, geometry);
+}

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
+#include <QVariantList>
+#include <QVariantMap>
 
 #include <memory>
 
@@ -35,6 +38,23 @@ public:
     // when there is none.
     QString passwordHash() const;
     void setPasswordHash(const QString &hash);
+
+    // Which button Return presses in the input window: 0 or 1 its OK button,
+    // 2 its input button, anything larger none.
+    int returnInputDefault() const;
+    void setReturnInputDefault(int which);
+
+    // The input window's memory of booked descriptions, as stored.
+    QVariantList recentDescriptions() const;
+    void setRecentDescriptions(const QVariantList &records);
+    QVariantList commonDescriptions() const;
+    void setCommonDescriptions(const QVariantList &records);
+    QVariantMap commonDescriptionsDB() const;
+    void setCommonDescriptionsDB(const QVariantMap &records);
+
+    // A window's saved geometry, under the window's own name (SettingsKeys).
+    QByteArray windowGeometry(QAnyStringView name) const;
+    void setWindowGeometry(QAnyStringView name, const QByteArray &geometry);
 
 private:
     std::unique_ptr<QSettings> m_settings;

@@ -1,0 +1,811 @@
+#include "input/InputWinController.h"
+
+#include "entry/NumberUtility.h"
+#include "input/DescriptionListModel.h"
+#include "input/InputRow.h"
+#include "ledger/KController.h"
+#include "model/Notifications.h"
+#include "model/NumberValue.h"
+#include "model/PaymentData.h"
+#include "settings/Settings.h"
+#include "settings/SettingsKeys.h"
+#include "widgets/KeyButton.h"
+#include "widgets/LastPopUpButton.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPointer>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSet>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace {
+
+constexpr int FixedRows = 3;
+
+// A value written back into an amount field. It must evaluate to itself
+// again, since every new total evaluates all fields: plain decimals, no
+// exponent, no digit grouping.
+QString amountText(double value)
+{
+    if (!std::isfinite(value))
+        return QString::number(value);
+    QString text = QString::number(value, 'f', 6);
+    while (text.endsWith(u'0'))
+        text.chop(1);
+    if (text.endsWith(u'.'))
+        text.chop(1);
+    return text == u"-0" ? QStringLiteral("0") : text;
+}
+
+// The first item of every category pop-up, which stands for "no category".
+QString categoryPlaceholder()
+{
+    return QCoreApplication::translate("Localizable", "Category");
+}
+
+QString totalText(float total)
+{
+    const double value = total;
+    return QLocale().toString(value, 'f', std::floor(value) == value ? 0 : 2);
+}
+
+QLineEdit *dateField(QWidget *parent, int width, const QString &accessibleName)
+{
+    auto *field = new QLineEdit(parent);
+    field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    field->setFixedWidth(width);
+    field->setAccessibleName(accessibleName);
+    return field;
+}
+
+QLabel *columnTitle(const QString &text, QWidget *parent, int width = -1,
+                    Qt::Alignment alignment = Qt::AlignLeft)
+{
+    auto *title = new QLabel(text, parent);
+    title->setAlignment(alignment | Qt::AlignVCenter);
+    if (width >= 0)
+        title->setFixedWidth(width);
+    return title;
+}
+
+QToolButton *dayButton(Qt::ArrowType arrow, const QString &name, const QKeySequence &shortcut,
+                       QWidget *parent)
+{
+    auto *button = new QToolButton(parent);
+    button->setArrowType(arrow);
+    button->setAutoRaise(true);
+    // Reached by its shortcut; Tab stays within the fields.
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setShortcut(shortcut);
+    button->setAccessibleName(name);
+    button->setToolTip(QStringLiteral("%1 (%2)").arg(name, shortcut.toString(QKeySequence::NativeText)));
+    return button;
+}
+
+} // namespace
+
+template <typename T>
+T *InputWinController::control(const InputRow *row, int role) const
+{
+    return qobject_cast<T *>(row->controlWithTag(InputRow::tagFor(row->row(), InputRow::Role(role))));
+}
+
+InputWinController::InputWinController(KController *controller, QWidget *parent)
+    : QWidget(parent, Qt::Window)
+    , m_controller(controller)
+    , m_descriptionModel(new DescriptionListModel(&m_descriptions, this))
+{
+    setObjectName(QStringLiteral("InputWindow"));
+    setWindowTitle(tr("Book Entries"));
+    m_descriptions.readRecentItemsFromDefault();
+
+    const InputRow::ColumnWidths widths = InputRow::columnWidths(this);
+
+    // The date on top, with buttons that step it a day at a time.
+    auto *dateLabel = new QLabel(tr("&Date:"), this);
+    m_yearTF = dateField(this, widths.month + fontMetrics().horizontalAdvance(QStringLiteral("00")),
+                         tr("Year"));
+    m_monthTF = dateField(this, widths.month, tr("Month"));
+    m_dateTF = dateField(this, widths.day, tr("Day"));
+    m_yearTF->setObjectName(QStringLiteral("yearTF"));
+    m_monthTF->setObjectName(QStringLiteral("monthTF"));
+    m_dateTF->setObjectName(QStringLiteral("dateTF"));
+    dateLabel->setBuddy(m_yearTF);
+    m_previousDayButton = dayButton(Qt::LeftArrow, tr("Previous day"),
+                                    QKeySequence(Qt::ALT | Qt::Key_Left), this);
+    m_nextDayButton = dayButton(Qt::RightArrow, tr("Next day"),
+                                QKeySequence(Qt::ALT | Qt::Key_Right), this);
+    for (QLineEdit *field : {m_yearTF, m_monthTF, m_dateTF})
+        connect(field, &QLineEdit::editingFinished, this, &InputWinController::checkDate);
+    connect(m_previousDayButton, &QToolButton::clicked, this, &InputWinController::decrementDate);
+    connect(m_nextDayButton, &QToolButton::clicked, this, &InputWinController::incrementDate);
+
+    auto *dateRow = new QHBoxLayout;
+    dateRow->setSpacing(InputRow::Spacing);
+    dateRow->addWidget(dateLabel);
+    dateRow->addWidget(m_yearTF);
+    dateRow->addWidget(new QLabel(QStringLiteral("/"), this));
+    dateRow->addWidget(m_monthTF);
+    dateRow->addWidget(new QLabel(QStringLiteral("/"), this));
+    dateRow->addWidget(m_dateTF);
+    dateRow->addSpacing(InputRow::Spacing);
+    dateRow->addWidget(m_previousDayButton);
+    dateRow->addWidget(m_nextDayButton);
+    dateRow->addStretch(1);
+
+    // Column titles, as wide as the columns of the rows below them.
+    m_header = new QWidget(this);
+    auto *headerLayout = new QHBoxLayout(m_header);
+    headerLayout->setContentsMargins(0, 0, 0, 0);
+    headerLayout->setSpacing(InputRow::Spacing);
+    headerLayout->addWidget(columnTitle(
+        tr("Date"), m_header, widths.month + widths.slash + widths.day + 2 * InputRow::Spacing,
+        Qt::AlignHCenter));
+    m_categoryTitle = columnTitle(tr("Category"), m_header);
+    headerLayout->addWidget(m_categoryTitle);
+    headerLayout->addWidget(columnTitle(tr("Details"), m_header), 1);
+    headerLayout->addWidget(columnTitle(tr("Amount"), m_header, widths.amount, Qt::AlignRight));
+    m_paywayTitle = columnTitle(tr("Payway"), m_header);
+    headerLayout->addWidget(m_paywayTitle);
+
+    m_inputView = new QWidget;
+    m_rowsLayout = new QVBoxLayout(m_inputView);
+    m_rowsLayout->setContentsMargins(0, 0, 0, 0);
+    m_rowsLayout->addStretch(1);
+    m_scrollArea = new QScrollArea(this);
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scrollArea->setWidget(m_inputView);
+    // The titles must stay over their columns when the scroll bar comes and
+    // goes.
+    m_scrollArea->verticalScrollBar()->installEventFilter(this);
+
+    auto *sumLabel = new QLabel(tr("Spending total:"), this);
+    m_sumTF = new QLabel(this);
+    m_sumTF->setObjectName(QStringLiteral("sumTF"));
+    m_sumTF->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_sumTF->setFixedWidth(widths.amount);
+    m_sumTF->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_sumTF->setAccessibleName(tr("Spending total"));
+    QFont sumFont = m_sumTF->font();
+    sumFont.setBold(true);
+    m_sumTF->setFont(sumFont);
+
+    m_addRowButton = new KeyButton(tr("&Add Row"), this);
+    m_cancelButton = new KeyButton(tr("Cancel"), this);
+    m_inputButton = new KeyButton(tr("Book and Show &List"), this);
+    m_OKButton = new KeyButton(tr("&Book"), this);
+    m_addRowButton->setObjectName(QStringLiteral("addRowButton"));
+    m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
+    m_inputButton->setObjectName(QStringLiteral("inputButton"));
+    m_OKButton->setObjectName(QStringLiteral("OKButton"));
+    connect(m_addRowButton, &QPushButton::clicked, this,
+            &InputWinController::makeNewInputViewFromAction);
+    connect(m_cancelButton, &QPushButton::clicked, this, &InputWinController::cancelInput);
+    connect(m_inputButton, &QPushButton::clicked, this, &InputWinController::inputDataAndShowList);
+    connect(m_OKButton, &QPushButton::clicked, this, &InputWinController::inputData);
+
+    // The total sits under the amounts, like the titles over them.
+    m_sumRow = new QWidget(this);
+    m_sumTrailer = new QWidget(m_sumRow);
+    auto *sumRow = new QHBoxLayout(m_sumRow);
+    sumRow->setContentsMargins(0, 0, 0, 0);
+    sumRow->setSpacing(InputRow::Spacing);
+    sumRow->addWidget(m_addRowButton);
+    sumRow->addStretch(1);
+    sumRow->addWidget(sumLabel);
+    sumRow->addWidget(m_sumTF);
+    sumRow->addWidget(m_sumTrailer);
+    auto *buttonRow = new QHBoxLayout;
+    buttonRow->addStretch(1);
+    buttonRow->addWidget(m_cancelButton);
+    buttonRow->addWidget(m_inputButton);
+    buttonRow->addWidget(m_OKButton);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(dateRow);
+    layout->addSpacing(InputRow::Spacing);
+    layout->addWidget(m_header);
+    layout->addWidget(m_scrollArea, 1);
+    layout->addWidget(m_sumRow);
+    layout->addLayout(buttonRow);
+
+    // Tab order: the date, the rows (linked as they are added), the buttons.
+    setTabOrder(m_yearTF, m_monthTF);
+    setTabOrder(m_monthTF, m_dateTF);
+    setTabOrder(m_addRowButton, m_cancelButton);
+    setTabOrder(m_cancelButton, m_inputButton);
+    setTabOrder(m_inputButton, m_OKButton);
+    updateColumnWidths();
+    for (int i = 0; i < FixedRows; ++i)
+        addRow();
+
+    // Queued, so that the application controller has reloaded the lists by
+    // the time the pop-ups read them.
+    connect(Notifications::instance(), &Notifications::listPreferenceHasUpDated, this,
+            &InputWinController::setPopupButtonTitle, Qt::QueuedConnection);
+
+    setInputDate(QDate::currentDate());
+    setPopupButtonTitle();
+    // Room for eight rows at first; the window remembers what the user makes
+    // of it.
+    if (!restoreGeometry(Settings().windowGeometry(SettingsKeys::InputWindow))) {
+        const int rowHeight = m_rows.constFirst()->sizeHint().height() + m_rowsLayout->spacing();
+        resize(std::max(sizeHint().width(), fontMetrics().averageCharWidth() * 130),
+               sizeHint().height() + 5 * rowHeight);
+    }
+    m_dateTF->setFocus();
+}
+
+InputWinController::~InputWinController()
+{
+    if (isVisible())
+        saveWindowGeometry();
+    // The controls outlive this part of the object, and the one with the
+    // focus still reports the end of its editing as the window goes: none of
+    // that may reach a window half destroyed.
+    const auto controls = findChildren<QObject *>();
+    for (QObject *control : controls)
+        control->disconnect(this);
+}
+
+void InputWinController::setYear(int year, int month, int date)
+{
+    QDate day = QDate(year, 1, 1);
+    if (!day.isValid())
+        day = QDate(QDate::currentDate().year(), 1, 1);
+    setInputDate(day.addMonths(month - 1).addDays(date - 1));
+    m_dateTF->setFocus();
+}
+
+bool InputWinController::canTerminateApp() const
+{
+    return std::all_of(m_rows.cbegin(), m_rows.cend(),
+                       [this](const InputRow *row) { return isRowEmpty(row); });
+}
+
+void InputWinController::confirmInputDataBeforeTerminate()
+{
+    show();
+    raise();
+    activateWindow();
+    if (findChild<QMessageBox *>(QStringLiteral("quitSheet")))
+        return;
+
+    auto *sheet = new QMessageBox(this);
+    sheet->setObjectName(QStringLiteral("quitSheet"));
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowModality(Qt::WindowModal);
+    sheet->setWindowTitle(windowTitle());
+    sheet->setIcon(QMessageBox::Question);
+    sheet->setText(QCoreApplication::translate("Localizable", "Input Data before Quit"));
+    sheet->setInformativeText(QCoreApplication::translate("Localizable", "Quit Input Alert"));
+    QPushButton *inputAndQuit = sheet->addButton(
+        QCoreApplication::translate("Localizable", "Input and Quit"), QMessageBox::AcceptRole);
+    QPushButton *quitWithout = sheet->addButton(
+        QCoreApplication::translate("Localizable", "Quit without Quit"), QMessageBox::DestructiveRole);
+    QPushButton *cancel = sheet->addButton(QCoreApplication::translate("Localizable", "Cancel"),
+                                           QMessageBox::RejectRole);
+    sheet->setDefaultButton(inputAndQuit);
+    sheet->setEscapeButton(cancel);
+    connect(sheet, &QMessageBox::finished, this, [this, sheet, inputAndQuit, quitWithout] {
+        if (sheet->clickedButton() == inputAndQuit) {
+            inputDataAndQuit();
+        } else if (sheet->clickedButton() == quitWithout) {
+            // Closing discards the rows, so the quit meets nothing pending.
+            close();
+            emit quitRequested();
+        }
+    });
+    sheet->open();
+}
+
+QWidget *InputWinController::getControlWithTag(int tag) const
+{
+    const InputRow *row = m_rows.value(tag / 10 - 1);
+    return row ? row->controlWithTag(tag) : nullptr;
+}
+
+void InputWinController::inputData()
+{
+    submit(0);
+}
+
+void InputWinController::inputDataAndShowList()
+{
+    submit(1);
+}
+
+void InputWinController::inputDataAndQuit()
+{
+    submit(2);
+}
+
+void InputWinController::submit(int afterInputWork)
+{
+    m_afterInputWork = afterInputWork;
+    // Statements still being typed are booked by their value.
+    calcurateSum();
+    for (InputRow *row : std::as_const(m_rows)) {
+        const bool noCategory = control<QComboBox>(row, InputRow::Category)->currentIndex() <= 0;
+        const bool hasData = !control<QLineEdit>(row, InputRow::Amount)->text().isEmpty()
+            || !control<QComboBox>(row, InputRow::Description)->currentText().isEmpty();
+        if (noCategory && hasData) {
+            showCategorySheet(row);
+            return;
+        }
+    }
+    bookInputData();
+}
+
+void InputWinController::showCategorySheet(InputRow *faultyRow)
+{
+    auto *sheet = new QMessageBox(this);
+    sheet->setObjectName(QStringLiteral("categorySheet"));
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowModality(Qt::WindowModal);
+    sheet->setWindowTitle(windowTitle());
+    sheet->setIcon(QMessageBox::Warning);
+    sheet->setText(QCoreApplication::translate("Localizable", "Data Category is not selected"));
+    sheet->setInformativeText(QCoreApplication::translate("Localizable", "Ignore unselected data"));
+    QPushButton *select = sheet->addButton(QCoreApplication::translate("Localizable", "Select"),
+                                           QMessageBox::RejectRole);
+    QPushButton *input = sheet->addButton(QCoreApplication::translate("Localizable", "Input"),
+                                          QMessageBox::AcceptRole);
+    sheet->setDefaultButton(select);
+    sheet->setEscapeButton(select);
+    const QPointer<InputRow> row = faultyRow;
+    connect(sheet, &QMessageBox::finished, this, [this, sheet, input, row] {
+        if (sheet->clickedButton() == input) {
+            bookInputData();
+        } else if (row) {
+            control<QComboBox>(row, InputRow::Category)->setFocus(Qt::OtherFocusReason);
+        }
+    });
+    sheet->open();
+}
+
+void InputWinController::bookInputData()
+{
+    struct Entry
+    {
+        InputRow *row;
+        PaymentDataPtr record;
+    };
+    QList<Entry> entries;
+    PaymentArray kept;
+    for (InputRow *row : std::as_const(m_rows)) {
+        auto record = std::make_shared<PaymentData>();
+        const QDate date = rowDate(row);
+        record->setYear(date.year());
+        record->setMonth(date.month());
+        record->setDate(date.day());
+        record->setCategory(control<QComboBox>(row, InputRow::Category)->currentIndex() - 1);
+        record->setDetails(control<QComboBox>(row, InputRow::Description)->currentText());
+        record->setAmount(floatValueOf(QStringView(control<QLineEdit>(row, InputRow::Amount)->text())));
+        record->setPayway(std::max(0, control<QComboBox>(row, InputRow::Payway)->currentIndex()));
+        record->setInitializing(false);
+        entries.append({row, record});
+        if (record->category() != -1)
+            kept.append(record);
+    }
+
+    // Month by month, so that a month that cannot take its entries (its file
+    // could not be read) keeps them here instead of losing them.
+    QSet<int> refusedMonths;
+    const auto months = KController::assortDataArray(kept);
+    for (auto it = months.cbegin(); it != months.cend(); ++it) {
+        const PaymentDataPtr &first = it->constFirst();
+        if (!m_controller->addData(*it, first->year(), first->month()))
+            refusedMonths.insert(it.key());
+    }
+
+    for (const Entry &entry : std::as_const(entries)) {
+        const PaymentData &record = *entry.record;
+        if (record.category() != -1
+            && refusedMonths.contains(record.year() * 100 + record.month()))
+            continue;
+        m_descriptions.addNewDescription(record);
+        clearDataOfView(entry.row);
+    }
+    m_descriptions.writeToDefault();
+    reloadDescriptions();
+    calcurateSum();
+
+    const int afterInputWork = m_afterInputWork;
+    m_afterInputWork = 0;
+    if (!refusedMonths.isEmpty())
+        return;
+    close();
+    if (afterInputWork == 1)
+        emit listWindowRequested();
+    else if (afterInputWork == 2)
+        emit quitRequested();
+}
+
+void InputWinController::cancelInput()
+{
+    close();
+    emit listWindowRequested();
+}
+
+void InputWinController::incrementDate()
+{
+    moveDate(1);
+}
+
+void InputWinController::decrementDate()
+{
+    moveDate(-1);
+}
+
+void InputWinController::moveDate(int days)
+{
+    for (InputRow *row : std::as_const(m_rows)) {
+        if (isRowEmpty(row))
+            setRowDate(row, rowDate(row).addDays(days));
+    }
+    m_inputDate = m_inputDate.addDays(days);
+    showTopDate(m_inputDate);
+}
+
+void InputWinController::checkDate()
+{
+    // An emptied field keeps its value; others roll over as a calendar does.
+    const auto valueOf = [](const QLineEdit *field, int current) {
+        return field->text().trimmed().isEmpty() ? current : integerValueOf(QStringView(field->text()));
+    };
+    const QDate first(valueOf(m_yearTF, m_inputDate.year()), 1, 1);
+    if (!first.isValid()) {
+        showTopDate(m_inputDate);
+        return;
+    }
+    const QDate date = first.addMonths(valueOf(m_monthTF, m_inputDate.month()) - 1)
+                           .addDays(valueOf(m_dateTF, m_inputDate.day()) - 1);
+    // Leaving a field unchanged must not reset the rows' own dates.
+    if (date == m_inputDate)
+        showTopDate(date);
+    else
+        setInputDate(date);
+}
+
+void InputWinController::setInputDate(const QDate &date)
+{
+    m_inputDate = date;
+    showTopDate(date);
+    for (InputRow *row : std::as_const(m_rows))
+        setRowDate(row, date);
+}
+
+void InputWinController::showTopDate(const QDate &date)
+{
+    m_yearTF->setText(QString::number(date.year()));
+    m_monthTF->setText(QString::number(date.month()));
+    m_dateTF->setText(QString::number(date.day()));
+}
+
+void InputWinController::setRowDate(InputRow *row, const QDate &date)
+{
+    row->setYear(date.year());
+    control<QLineEdit>(row, InputRow::Month)->setText(QString::number(date.month()));
+    control<QLineEdit>(row, InputRow::Day)->setText(QString::number(date.day()));
+}
+
+QDate InputWinController::rowDate(const InputRow *row) const
+{
+    int month = integerValueOf(QStringView(control<QLineEdit>(row, InputRow::Month)->text()));
+    int day = integerValueOf(QStringView(control<QLineEdit>(row, InputRow::Day)->text()));
+    if (month < 1 || month > 12)
+        month = m_inputDate.month();
+    const QDate first(row->year(), month, 1);
+    if (day < 1)
+        day = m_inputDate.day();
+    // 31 April is the last day of April, not the first of May.
+    return QDate(first.year(), month, std::min(day, first.daysInMonth()));
+}
+
+bool InputWinController::isRowEmpty(const InputRow *row) const
+{
+    return control<QComboBox>(row, InputRow::Category)->currentIndex() <= 0
+        && control<QComboBox>(row, InputRow::Description)->currentText().isEmpty()
+        && control<QLineEdit>(row, InputRow::Amount)->text().isEmpty();
+}
+
+void InputWinController::makeNewInputViewFromAction()
+{
+    if (m_rows.isEmpty())
+        return;
+    makeNewInputView(control<LastPopUpButton>(m_rows.constLast(), InputRow::Payway));
+}
+
+void InputWinController::makeNewInputView(LastPopUpButton *sender)
+{
+    const InputRow *senderRow = m_rows.value(InputRow::tagOf(sender) / 10 - 1);
+    const QDate date = senderRow ? rowDate(senderRow) : m_inputDate;
+    InputRow *row = addRow();
+    setRowDate(row, date);
+    auto *month = control<QLineEdit>(row, InputRow::Month);
+    month->setFocus(Qt::TabFocusReason);
+    // The row has its place only once the layout has run.
+    QTimer::singleShot(0, month, [this, month] { m_scrollArea->ensureWidgetVisible(month); });
+}
+
+InputRow *InputWinController::addRow()
+{
+    const int number = numberOfRows() + 1;
+    QWidget *previous = m_rows.isEmpty()
+        ? static_cast<QWidget *>(m_dateTF)
+        : control<QWidget>(m_rows.constLast(), InputRow::Payway);
+    auto *row = new InputRow(number, m_descriptionModel, m_inputView);
+    m_rows.append(row);
+    m_rowsLayout->insertWidget(number - 1, row);
+    // Now rather than on the layout's next pass, so that Tab can reach it at
+    // once.
+    row->show();
+
+    auto *category = control<QComboBox>(row, InputRow::Category);
+    auto *description = control<QComboBox>(row, InputRow::Description);
+    auto *amount = control<QLineEdit>(row, InputRow::Amount);
+    auto *payway = control<LastPopUpButton>(row, InputRow::Payway);
+    auto *month = control<QLineEdit>(row, InputRow::Month);
+    auto *day = control<QLineEdit>(row, InputRow::Day);
+
+    connect(category, &QComboBox::currentIndexChanged, this, &InputWinController::calcurateSum);
+    connect(category, &QComboBox::activated, row, [row] { row->categoryFromMemory = false; });
+    connect(description, &QComboBox::activated, this,
+            [this, row](int index) { selectDescription(row, index); });
+    connect(description->lineEdit(), &QLineEdit::editingFinished, this,
+            [this, row] { descriptionEditingEnded(row); });
+    connect(amount, &QLineEdit::editingFinished, this, &InputWinController::calcurateSum);
+    connect(amount, &QLineEdit::textEdited, row, [row] { row->amountFromMemory = false; });
+    connect(payway, &LastPopUpButton::nextKeyViewNeeded, this,
+            &InputWinController::makeNewInputView);
+
+    // Behind the previous row in the Tab order, and in front of the buttons.
+    if (auto *previousPayway = qobject_cast<LastPopUpButton *>(previous))
+        previousPayway->setNextKeyView(month);
+    else
+        setTabOrder(previous, month);
+    setTabOrder(month, day);
+    setTabOrder(day, category);
+    setTabOrder(category, description);
+    setTabOrder(description, amount);
+    setTabOrder(amount, payway);
+    setTabOrder(payway, m_addRowButton);
+
+    fillPopUps(row);
+    row->setPopUpWidths(m_categoryWidth, m_paywayWidth);
+    clearDataOfView(row);
+    return row;
+}
+
+void InputWinController::removeInputViews()
+{
+    while (m_rows.size() > FixedRows) {
+        InputRow *row = m_rows.takeLast();
+        row->hide();
+        m_rowsLayout->removeWidget(row);
+        // Later: the key press that booked may still be on its way through
+        // one of its controls.
+        row->deleteLater();
+    }
+    auto *last = control<LastPopUpButton>(m_rows.constLast(), InputRow::Payway);
+    last->setNextKeyView(nullptr);
+    setTabOrder(last, m_addRowButton);
+}
+
+void InputWinController::clearDataOfView(InputRow *row)
+{
+    control<QComboBox>(row, InputRow::Category)->setCurrentIndex(0);
+    control<QComboBox>(row, InputRow::Payway)->setCurrentIndex(0);
+    auto *description = control<QComboBox>(row, InputRow::Description);
+    description->setCurrentIndex(-1);
+    description->clearEditText();
+    control<QLineEdit>(row, InputRow::Amount)->clear();
+    // A cleared row is ready for the window's date rather than left without
+    // one.
+    setRowDate(row, m_inputDate);
+    row->categoryFromMemory = false;
+    row->amountFromMemory = false;
+}
+
+void InputWinController::calcurateSum()
+{
+    for (InputRow *row : std::as_const(m_rows)) {
+        auto *amount = control<QLineEdit>(row, InputRow::Amount);
+        if (amount->text().isEmpty())
+            continue;
+        const QString value =
+            amountText(NumberUtility::numberWithCalcurationStatement(amount->text()));
+        if (value != amount->text())
+            amount->setText(value);
+    }
+    m_sumTF->setText(totalText(spendingTotal()));
+}
+
+float InputWinController::spendingTotal() const
+{
+    float total = 0;
+    for (const InputRow *row : m_rows) {
+        const QString text = control<QLineEdit>(row, InputRow::Amount)->text();
+        if (text.isEmpty())
+            continue;
+        // Neither a row without category nor one of income (the last
+        // category) is spending.
+        const auto *category = control<QComboBox>(row, InputRow::Category);
+        if (category->currentIndex() != 0 && category->currentIndex() < category->count() - 1)
+            total += float(NumberUtility::numberWithCalcurationStatement(text));
+    }
+    return total;
+}
+
+void InputWinController::setPopupButtonTitle()
+{
+    updateColumnWidths();
+    for (InputRow *row : std::as_const(m_rows))
+        fillPopUps(row);
+    changeDefaultButton();
+    calcurateSum();
+}
+
+void InputWinController::updateColumnWidths()
+{
+    QStringList categories = m_controller->categoryList();
+    categories.append(categoryPlaceholder());
+    m_categoryWidth = InputRow::popUpWidth(this, categories);
+    m_paywayWidth = InputRow::popUpWidth(this, m_controller->paywayList());
+    m_categoryTitle->setFixedWidth(m_categoryWidth);
+    m_paywayTitle->setFixedWidth(m_paywayWidth);
+    m_sumTrailer->setFixedWidth(m_paywayWidth);
+    for (InputRow *row : std::as_const(m_rows))
+        row->setPopUpWidths(m_categoryWidth, m_paywayWidth);
+    // Never narrower than a row, so nothing needs scrolling sideways.
+    m_scrollArea->setMinimumWidth(m_inputView->minimumSizeHint().width());
+}
+
+void InputWinController::fillPopUps(InputRow *row)
+{
+    // A choice survives a change of the lists when its name is still there.
+    const auto refill = [](QComboBox *box, const QStringList &items, int firstItem) {
+        const QString chosen = box->currentIndex() >= firstItem ? box->currentText() : QString();
+        const QSignalBlocker blocker(box);
+        while (box->count() > firstItem)
+            box->removeItem(box->count() - 1);
+        box->addItems(items);
+        int index = 0;
+        for (int i = firstItem; i < box->count() && !chosen.isEmpty(); ++i) {
+            if (box->itemText(i) == chosen) {
+                index = i;
+                break;
+            }
+        }
+        box->setCurrentIndex(index);
+    };
+    auto *category = control<QComboBox>(row, InputRow::Category);
+    if (category->count() == 0)
+        category->addItem(categoryPlaceholder());
+    category->setItemText(0, categoryPlaceholder());
+    refill(category, m_controller->categoryList(), 1);
+    refill(control<QComboBox>(row, InputRow::Payway), m_controller->paywayList(), 0);
+}
+
+void InputWinController::changeDefaultButton()
+{
+    m_OKButton->setDefault(false);
+    m_inputButton->setDefault(false);
+    const int which = Settings().returnInputDefault();
+    if (which <= 1)
+        m_OKButton->setDefault(true);
+    else if (which == 2)
+        m_inputButton->setDefault(true);
+}
+
+void InputWinController::selectDescription(InputRow *row, int index)
+{
+    const auto *description = control<QComboBox>(row, InputRow::Description);
+    if (index < 0 || description->currentText().isEmpty())
+        return;
+    fillFromDescription(row, m_descriptions.itemAt(index));
+}
+
+void InputWinController::descriptionEditingEnded(InputRow *row)
+{
+    // A description typed out in full counts as chosen.
+    const auto *description = control<QComboBox>(row, InputRow::Description);
+    const int index = description->findText(description->currentText(),
+                                            Qt::MatchExactly | Qt::MatchCaseSensitive);
+    selectDescription(row, index);
+}
+
+void InputWinController::fillFromDescription(InputRow *row, const DescriptionMemory::Record &record)
+{
+    // What the user chose or typed in this row stays; only what a remembered
+    // description put there may be replaced by another.
+    auto *category = control<QComboBox>(row, InputRow::Category);
+    if (category->currentIndex() <= 0 || row->categoryFromMemory) {
+        const int index = record.category + 1;
+        category->setCurrentIndex(index >= 0 && index < category->count() ? index : 0);
+        row->categoryFromMemory = true;
+    }
+    auto *amount = control<QLineEdit>(row, InputRow::Amount);
+    if (amount->text().isEmpty() || row->amountFromMemory) {
+        amount->setText(amountText(record.amount));
+        row->amountFromMemory = true;
+    }
+    calcurateSum();
+}
+
+void InputWinController::reloadDescriptions()
+{
+    // A description box whose list is replaced forgets its text and shows
+    // the first item instead: keep what each row holds.
+    QStringList texts;
+    for (const InputRow *row : std::as_const(m_rows))
+        texts.append(control<QComboBox>(row, InputRow::Description)->currentText());
+    m_descriptionModel->reload();
+    for (qsizetype i = 0; i < m_rows.size(); ++i) {
+        auto *description = control<QComboBox>(m_rows.at(i), InputRow::Description);
+        description->setCurrentIndex(-1);
+        description->setEditText(texts.at(i));
+    }
+}
+
+void InputWinController::saveWindowGeometry()
+{
+    Settings().setWindowGeometry(SettingsKeys::InputWindow, saveGeometry());
+}
+
+void InputWinController::closeEvent(QCloseEvent *event)
+{
+    saveWindowGeometry();
+    removeInputViews();
+    for (InputRow *row : std::as_const(m_rows))
+        clearDataOfView(row);
+    calcurateSum();
+    m_scrollArea->verticalScrollBar()->setValue(0);
+    m_dateTF->setFocus();
+    QWidget::closeEvent(event);
+}
+
+void InputWinController::keyPressEvent(QKeyEvent *event)
+{
+    // What a dialog does for its default button, for a window that is not a
+    // dialog: Return (or Enter on the keypad) that no field took.
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
+        for (KeyButton *button : {m_OKButton, m_inputButton}) {
+            if (button->isDefault() && button->isEnabled()) {
+                button->click();
+                return;
+            }
+        }
+    }
+    QWidget::keyPressEvent(event);
+}
+
+bool InputWinController::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_scrollArea->verticalScrollBar()
+        && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
+        const int right = event->type() == QEvent::Show
+            ? m_scrollArea->verticalScrollBar()->sizeHint().width()
+            : 0;
+        m_header->layout()->setContentsMargins(0, 0, right, 0);
+        m_sumRow->layout()->setContentsMargins(0, 0, right, 0);
+    }
+    return QWidget::eventFilter(watched, event);
+}

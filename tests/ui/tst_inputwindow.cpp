@@ -1,0 +1,499 @@
+#include "TestDataFolder.h"
+#include "TestHelpers.h"
+
+#include "entry/DescriptionMemory.h"
+#include "input/InputRow.h"
+#include "input/InputWinController.h"
+#include "ledger/DataFolder.h"
+#include "ledger/KController.h"
+#include "model/MonthDataList.h"
+#include "model/Notifications.h"
+#include "settings/Settings.h"
+#include "settings/SettingsKeys.h"
+#include "storage/ListFile.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Positions in the default lists of a new data folder.
+constexpr int Groceries = 1; // pop-up item; category 0
+constexpr int EatingOut = 2;
+constexpr int Income = 14; // the last item
+constexpr int CreditCard = 2;
+
+// Finds a button of an open sheet by its text.
+QPushButton *sheetButton(QMessageBox *sheet, const QString &text)
+{
+    const auto buttons = sheet->buttons();
+    for (QAbstractButton *button : buttons) {
+        if (button->text() == text)
+            return qobject_cast<QPushButton *>(button);
+    }
+    qFatal("no button %s", qPrintable(text));
+}
+
+} // namespace
+
+class TestInputWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void statementsAreEvaluatedAndSpendingSummed();
+    void tabPastTheLastRowAddsOne();
+    void keyboardAloneBooksRowsOfTwoMonths();
+    void rowWithoutCategoryRaisesTheSheet();
+    void quitGuard();
+    void returnKeyFollowsTheSetting();
+    void steppingTheDateMovesOnlyEmptyRows();
+    void rememberedDescriptionFillsTheRow();
+    void monthThatCannotBeWrittenKeepsItsRows();
+    void popUpsFollowChangedLists();
+
+private:
+    template <typename T>
+    T *control(int row, InputRow::Role role) const
+    {
+        auto *found = qobject_cast<T *>(m_window->getControlWithTag(InputRow::tagFor(row, role)));
+        if (!found)
+            qFatal("row %d has no control of role %d", row, int(role));
+        return found;
+    }
+    QLineEdit *amount(int row) const { return control<QLineEdit>(row, InputRow::Amount); }
+    QComboBox *category(int row) const { return control<QComboBox>(row, InputRow::Category); }
+    QComboBox *description(int row) const
+    {
+        return control<QComboBox>(row, InputRow::Description);
+    }
+    QString sum() const { return m_window->findChild<QLabel *>(u"sumTF"_s)->text(); }
+    QMessageBox *sheet(const QString &name) const
+    {
+        return m_window->findChild<QMessageBox *>(name);
+    }
+    // Clicks into the field, replaces its text and leaves it with Tab.
+    void typeInto(QWidget *field, const QString &text);
+    void showWindow();
+    QString monthFile(int year, int month) const
+    {
+        return DataFolder::filePathForYear(m_home.dataFolder(), year, month);
+    }
+
+    TestDataFolder m_home;
+    std::unique_ptr<KController> m_controller;
+    std::unique_ptr<InputWinController> m_window;
+};
+
+void TestInputWindow::init()
+{
+    m_home.freshDataFolder();
+    Settings().setVersion(1);
+    m_controller = std::make_unique<KController>();
+    m_controller->readListPreference();
+    m_window = std::make_unique<InputWinController>(m_controller.get());
+    m_window->setYear(2006, 5, 31);
+    showWindow();
+}
+
+void TestInputWindow::cleanup()
+{
+    m_window.reset();
+    m_controller.reset();
+    QSettings(u"Penwick"_s, u"Penwick"_s).clear();
+}
+
+void TestInputWindow::showWindow()
+{
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void TestInputWindow::typeInto(QWidget *field, const QString &text)
+{
+    field->setFocus(Qt::TabFocusReason);
+    if (auto *line = qobject_cast<QLineEdit *>(field))
+        line->selectAll();
+    QTest::keyClicks(field, text);
+    QTest::keyClick(field, Qt::Key_Tab);
+}
+
+void TestInputWindow::statementsAreEvaluatedAndSpendingSummed()
+{
+    QCOMPARE(m_window->numberOfRows(), 3);
+    QCOMPARE(sum(), u"0"_s);
+
+    category(1)->setCurrentIndex(Groceries);
+    typeInto(amount(1), u"2*3"_s);
+    QCOMPARE(amount(1)->text(), u"6"_s);
+    QCOMPARE(sum(), u"6"_s);
+
+    // Income is not spending; a row without category is not summed either.
+    category(2)->setCurrentIndex(Income);
+    typeInto(amount(2), u"1,200+350"_s);
+    QCOMPARE(amount(2)->text(), u"1550"_s);
+    typeInto(amount(3), u"(1+2"_s);
+    QCOMPARE(amount(3)->text(), u"0"_s);
+    QCOMPARE(sum(), u"6"_s);
+
+    // Choosing a category brings a typed amount into the total.
+    typeInto(amount(3), u"10/4"_s);
+    category(3)->setCurrentIndex(EatingOut);
+    QCOMPARE(amount(3)->text(), u"2.5"_s);
+    QCOMPARE(sum(), QLocale().toString(8.5, 'f', 2));
+}
+
+void TestInputWindow::tabPastTheLastRowAddsOne()
+{
+    auto *lastPayway = control<QComboBox>(3, InputRow::Payway);
+    control<QLineEdit>(3, InputRow::Day)->setText(u"17"_s);
+    lastPayway->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(lastPayway, Qt::Key_Tab);
+    QCOMPARE(m_window->numberOfRows(), 4);
+    auto *newMonth = control<QLineEdit>(4, InputRow::Month);
+    QCOMPARE(QApplication::focusWidget(), newMonth);
+    // The new row starts on the date of the row it follows.
+    QCOMPARE(newMonth->text(), u"5"_s);
+    QCOMPARE(control<QLineEdit>(4, InputRow::Day)->text(), u"17"_s);
+
+    // Row 3 is no longer last: Tab moves into row 4 and adds nothing.
+    lastPayway->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(lastPayway, Qt::Key_Tab);
+    QCOMPARE(m_window->numberOfRows(), 4);
+    QCOMPARE(QApplication::focusWidget(), newMonth);
+
+    // Tab walks the whole new row and past its end into a fifth one.
+    QList<QWidget *> visited;
+    for (int i = 0; i < 6; ++i) {
+        visited.append(QApplication::focusWidget());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(visited.at(1), control<QWidget>(4, InputRow::Day));
+    QCOMPARE(visited.at(2), control<QWidget>(4, InputRow::Category));
+    QCOMPARE(visited.at(3), control<QWidget>(4, InputRow::Description));
+    QCOMPARE(visited.at(4), control<QWidget>(4, InputRow::Amount));
+    QCOMPARE(visited.at(5), control<QWidget>(4, InputRow::Payway));
+    QCOMPARE(m_window->numberOfRows(), 5);
+    QCOMPARE(QApplication::focusWidget(), control<QWidget>(5, InputRow::Month));
+
+    // Shift+Tab goes back into the row above.
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget(), control<QWidget>(4, InputRow::Payway));
+
+    // The buttons lie behind the date on top.
+    auto *topYear = m_window->findChild<QLineEdit *>(u"yearTF"_s);
+    topYear->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(topYear, Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget()->objectName(), u"OKButton"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget()->objectName(), u"inputButton"_s);
+
+    // Closing leaves the three fixed rows, and the third is last again.
+    m_window->close();
+    QVERIFY(!Settings().windowGeometry(SettingsKeys::InputWindow).isEmpty());
+    QCOMPARE(m_window->numberOfRows(), 3);
+    QVERIFY(!m_window->getControlWithTag(41));
+    showWindow();
+    lastPayway->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(lastPayway, Qt::Key_Tab);
+    QCOMPARE(m_window->numberOfRows(), 4);
+}
+
+void TestInputWindow::keyboardAloneBooksRowsOfTwoMonths()
+{
+    QSignalSpy listRequests(m_window.get(), &InputWinController::listWindowRequested);
+    // The window opens with the focus on the day on top.
+    QCOMPARE(QApplication::focusWidget()->objectName(), u"dateTF"_s);
+
+    // From the day on top: Tab into row 1, keep its date, pick a category by
+    // its first letters, describe, sum, choose a payway.
+    QWidget *focus = QApplication::focusWidget();
+    QTest::keyClick(focus, Qt::Key_Tab); // row 1 month
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); // row 1 day
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); // category
+    QCOMPARE(QApplication::focusWidget(), category(1));
+    QTest::keyClicks(category(1), u"Gro"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), u"Market"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), amount(1));
+    QTest::keyClicks(amount(1), u"1200+350"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), u"Cr"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+
+    // Row 2 goes into June.
+    QCOMPARE(QApplication::focusWidget(), control<QWidget>(2, InputRow::Month));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), u"6"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), u"2"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), u"Eat"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), u"Lunch"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), u"800"_s);
+    QCOMPARE(sum(), QLocale().toString(1550));
+
+    // Return in the amount field books both rows.
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QVERIFY(!m_window->isVisible());
+    QCOMPARE(listRequests.count(), 0);
+    QVERIFY(QFile::exists(monthFile(2006, 5)));
+    QVERIFY(QFile::exists(monthFile(2006, 6)));
+
+    // What a fresh start reads back from the files.
+    m_controller->releaseAllDataWithSave(false);
+    const auto may = m_controller->monthListForYear(2006, 5)->dataListArray();
+    QCOMPARE(may.size(), 1);
+    QCOMPARE(may.first()->date(), 31);
+    QCOMPARE(may.first()->category(), Groceries - 1);
+    QCOMPARE(may.first()->details(), u"Market"_s);
+    QCOMPARE(may.first()->amount(), 1550.0f);
+    QCOMPARE(may.first()->payway(), CreditCard);
+    const auto june = m_controller->monthListForYear(2006, 6)->dataListArray();
+    QCOMPARE(june.size(), 1);
+    QCOMPARE(june.first()->date(), 2);
+    QCOMPARE(june.first()->details(), u"Lunch"_s);
+    QCOMPARE(june.first()->amount(), 800.0f);
+
+    // The rows are empty again and the descriptions are remembered.
+    QCOMPARE(amount(1)->text(), QString());
+    QCOMPARE(description(2)->currentText(), QString());
+    QCOMPARE(sum(), u"0"_s);
+    DescriptionMemory memory;
+    memory.readRecentItemsFromDefault();
+    QCOMPARE(memory.commonDescriptionsDB().size(), 2);
+    QCOMPARE(description(1)->count(), 2);
+}
+
+void TestInputWindow::rowWithoutCategoryRaisesTheSheet()
+{
+    typeInto(description(1), u"Mystery"_s);
+    category(2)->setCurrentIndex(Groceries);
+    typeInto(amount(2), u"300"_s);
+    // Only a payway is not data: row 3 is neither faulty nor booked.
+    control<QComboBox>(3, InputRow::Payway)->setCurrentIndex(CreditCard);
+
+    m_window->inputData();
+    QMessageBox *categorySheet = sheet(u"categorySheet"_s);
+    QVERIFY(categorySheet);
+    QVERIFY(categorySheet->isVisible());
+    QCOMPARE(categorySheet->windowModality(), Qt::WindowModal);
+    QCOMPARE(categorySheet->text(), u"Data Category is not selected"_s);
+    QCOMPARE(categorySheet->informativeText(), u"Ignore unselected data"_s);
+
+    // "Select" leaves everything as it was, ready to choose the category.
+    sheetButton(categorySheet, u"Select"_s)->click();
+    QVERIFY(m_window->isVisible());
+    QVERIFY(!QFile::exists(monthFile(2006, 5)));
+    QCOMPARE(description(1)->currentText(), u"Mystery"_s);
+    QCOMPARE(QApplication::focusWidget(), category(1));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    // "Input" books the rest and drops the faulty row, whose description is
+    // still remembered, without a category.
+    m_window->inputData();
+    sheetButton(sheet(u"categorySheet"_s), u"Input"_s)->click();
+    QVERIFY(!m_window->isVisible());
+    const auto may = m_controller->monthListForYear(2006, 5)->dataListArray();
+    QCOMPARE(may.size(), 1);
+    QCOMPARE(may.first()->amount(), 300.0f);
+    DescriptionMemory memory;
+    memory.readRecentItemsFromDefault();
+    QCOMPARE(memory.commonDescriptionsDB().value(u"Mystery"_s).category, -1);
+}
+
+void TestInputWindow::quitGuard()
+{
+    QSignalSpy quits(m_window.get(), &InputWinController::quitRequested);
+    QVERIFY(m_window->canTerminateApp());
+
+    // Typed income is not in the spending total, yet it is not thrown away
+    // without asking.
+    category(1)->setCurrentIndex(Income);
+    typeInto(amount(1), u"5000"_s);
+    QCOMPARE(sum(), u"0"_s);
+    QVERIFY(!m_window->canTerminateApp());
+
+    m_window->confirmInputDataBeforeTerminate();
+    QMessageBox *quitSheet = sheet(u"quitSheet"_s);
+    QVERIFY(quitSheet && quitSheet->isVisible());
+    QCOMPARE(quitSheet->text(), u"Input Data before Quit"_s);
+    sheetButton(quitSheet, u"Cancel"_s)->click();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(quits.count(), 0);
+    QCOMPARE(amount(1)->text(), u"5000"_s);
+
+    // Quit without booking: nothing written, nothing left to hold the quit.
+    m_window->confirmInputDataBeforeTerminate();
+    sheetButton(sheet(u"quitSheet"_s), u"Quit without Quit"_s)->click();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(quits.count(), 1);
+    QVERIFY(m_window->canTerminateApp());
+    QVERIFY(!QFile::exists(monthFile(2006, 5)));
+
+    // Book, then quit.
+    showWindow();
+    category(1)->setCurrentIndex(Income);
+    typeInto(amount(1), u"5000"_s);
+    m_window->confirmInputDataBeforeTerminate();
+    sheetButton(sheet(u"quitSheet"_s), u"Input and Quit"_s)->click();
+    QCOMPARE(quits.count(), 2);
+    QVERIFY(QFile::exists(monthFile(2006, 5)));
+    QVERIFY(m_window->canTerminateApp());
+}
+
+void TestInputWindow::returnKeyFollowsTheSetting()
+{
+    QSignalSpy listRequests(m_window.get(), &InputWinController::listWindowRequested);
+    Settings().setReturnInputDefault(2);
+    m_window->setPopupButtonTitle();
+    category(1)->setCurrentIndex(Groceries);
+    amount(1)->setFocus();
+    QTest::keyClicks(amount(1), u"100"_s);
+    QTest::keyClick(amount(1), Qt::Key_Return);
+    QCOMPARE(listRequests.count(), 1);
+    QVERIFY(QFile::exists(monthFile(2006, 5)));
+
+    // 3: Return books nothing.
+    Settings().setReturnInputDefault(3);
+    m_window->setPopupButtonTitle();
+    showWindow();
+    category(1)->setCurrentIndex(Groceries);
+    amount(1)->setFocus();
+    QTest::keyClicks(amount(1), u"100"_s);
+    QTest::keyClick(amount(1), Qt::Key_Return);
+    QVERIFY(m_window->isVisible());
+    QCOMPARE(m_controller->monthListForYear(2006, 5)->dataListArray().size(), 1);
+}
+
+void TestInputWindow::steppingTheDateMovesOnlyEmptyRows()
+{
+    category(1)->setCurrentIndex(Groceries);
+    m_window->incrementDate();
+    QCOMPARE(m_window->inputDate(), QDate(2006, 6, 1));
+    QCOMPARE(control<QLineEdit>(1, InputRow::Month)->text(), u"5"_s);
+    QCOMPARE(control<QLineEdit>(1, InputRow::Day)->text(), u"31"_s);
+    QCOMPARE(control<QLineEdit>(2, InputRow::Month)->text(), u"6"_s);
+    QCOMPARE(control<QLineEdit>(2, InputRow::Day)->text(), u"1"_s);
+
+    // A date typed on top applies to every row and rolls over.
+    typeInto(m_window->findChild<QLineEdit *>(u"dateTF"_s), u"32"_s);
+    QCOMPARE(m_window->inputDate(), QDate(2006, 7, 2));
+    QCOMPARE(control<QLineEdit>(1, InputRow::Month)->text(), u"7"_s);
+
+    // Rows keep their own year across New Year.
+    m_window->setYear(2006, 12, 31);
+    typeInto(amount(1), u"40"_s);
+    m_window->incrementDate();
+    QCOMPARE(m_window->inputDate(), QDate(2007, 1, 1));
+    m_window->inputData();
+    QVERIFY(QFile::exists(monthFile(2006, 12)));
+    QVERIFY(!QFile::exists(monthFile(2007, 12)));
+}
+
+void TestInputWindow::rememberedDescriptionFillsTheRow()
+{
+    category(1)->setCurrentIndex(EatingOut);
+    typeInto(description(1), u"Lunch"_s);
+    typeInto(amount(1), u"800"_s);
+    m_window->inputData();
+    showWindow();
+
+    // Choosing it from the list fills category and amount.
+    QCOMPARE(description(2)->count(), 1);
+    description(2)->setFocus();
+    QTest::keyClick(description(2), Qt::Key_Down);
+    QCOMPARE(description(2)->currentText(), u"Lunch"_s);
+    QCOMPARE(category(2)->currentIndex(), EatingOut);
+    QCOMPARE(amount(2)->text(), u"800"_s);
+    QCOMPARE(sum(), u"800"_s);
+
+    // Typed out in full, it fills an empty row too, but never replaces an
+    // amount the user typed.
+    typeInto(amount(3), u"950"_s);
+    typeInto(description(3), u"Lunch"_s);
+    QCOMPARE(category(3)->currentIndex(), EatingOut);
+    QCOMPARE(amount(3)->text(), u"950"_s);
+
+    // The start of a remembered description stays what was typed.
+    m_window->makeNewInputViewFromAction();
+    typeInto(description(4), u"Lu"_s);
+    QCOMPARE(description(4)->currentText(), u"Lu"_s);
+    QCOMPARE(category(4)->currentIndex(), 0);
+    QCOMPARE(amount(4)->text(), QString());
+}
+
+void TestInputWindow::monthThatCannotBeWrittenKeepsItsRows()
+{
+    // May's file is damaged: its month is read-only and takes nothing.
+    QFile damaged(monthFile(2006, 5));
+    QVERIFY(damaged.open(QIODevice::WriteOnly));
+    damaged.write("not a month");
+    damaged.close();
+    QSignalSpy refusals(m_controller.get(), &KController::monthFileNotWritten);
+
+    category(1)->setCurrentIndex(Groceries);
+    typeInto(description(1), u"Market"_s);
+    typeInto(amount(1), u"1200"_s);
+    category(2)->setCurrentIndex(Groceries);
+    control<QLineEdit>(2, InputRow::Month)->setText(u"6"_s);
+    typeInto(amount(2), u"300"_s);
+    // Return in a description box books as well.
+    description(2)->setFocus();
+    QTest::keyClick(description(2), Qt::Key_Return);
+
+    QCOMPARE(refusals.count(), 1);
+    QCOMPARE(m_controller->monthListForYear(2006, 6)->dataListArray().size(), 1);
+    // The window stays open with May's row as it was; June's row is gone.
+    QVERIFY(m_window->isVisible());
+    QCOMPARE(description(1)->currentText(), u"Market"_s);
+    QCOMPARE(amount(1)->text(), u"1200"_s);
+    QCOMPARE(amount(2)->text(), QString());
+    QCOMPARE(sum(), QLocale().toString(1200));
+    QCOMPARE(readBytes(monthFile(2006, 5)), QByteArray("not a month"));
+}
+
+void TestInputWindow::popUpsFollowChangedLists()
+{
+    category(1)->setCurrentIndex(EatingOut);
+    category(2)->setCurrentIndex(Groceries);
+    typeInto(amount(1), u"100"_s);
+    typeInto(amount(2), u"50"_s);
+
+    // Groceries is renamed, Eating out moves: choices follow names, and the
+    // total follows the choices.
+    const QVariantList categories{u"Eating out"_s, u"Food"_s, u"Income"_s};
+    QVERIFY(ListFile::setPreferenceDataListForKey(m_home.dataFolder(), categories,
+                                                  ListFile::CategoryList));
+    m_controller->readListPreference();
+    emit Notifications::instance()->listPreferenceHasUpDated();
+    QTRY_COMPARE(category(1)->count(), 4);
+    QCOMPARE(category(1)->currentText(), u"Eating out"_s);
+    QCOMPARE(category(2)->currentIndex(), 0);
+    QCOMPARE(category(2)->itemText(0), u"Category"_s);
+    QCOMPARE(sum(), u"100"_s);
+}
+
+QTEST_MAIN(TestInputWindow)
+#include "tst_inputwindow.moc"
+
