@@ -86,14 +86,14 @@ void Settings::setColumnMenuStates(const QList<int> &states)
     m_settings->setValue(SettingsKeys::ColumnMenuStates, values);
 }
 
-QByteArray Settings::savedLayout(QStringView name) const
+QByteArray Settings::savedLayout(const QString &name) const
 {
-    return m_settings->value(name.toString()).toByteArray();
+    return m_settings->value(name).toByteArray();
 }
 
-void Settings::setSavedLayout(QStringView name, const QByteArray &layout)
+void Settings::setSavedLayout(const QString &name, const QByteArray &layout)
 {
-    m_settings->setValue(name.toString(), layout);
+    m_settings->setValue(name, layout);
 }
 
 namespace {

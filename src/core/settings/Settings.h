@@ -46,8 +46,8 @@ public:
 
     // A layout a widget saves under its own name (a window's frame, a table's
     // columns), opaque to everyone else; empty when none was saved.
-    QByteArray savedLayout(QStringView name) const;
-    void setSavedLayout(QStringView name, const QByteArray &layout);
+    QByteArray savedLayout(const QString &name) const;
+    void setSavedLayout(const QString &name, const QByteArray &layout);
 
     // A split view's three keys under its name; nullopt when absent.
     std::optional<bool> splitViewIsVertical(QStringView name) const;
