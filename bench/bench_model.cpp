@@ -1,9 +1,10 @@
-// The ledger model's hot paths: the change cycle of a month, the sums and the
-// day order of a year, and sorting thirty years of records.
+// The ledger model's hot paths: the change cycle of a month, its search, the
+// sums and the day order of a year, and sorting thirty years of records.
 #include "LedgerGenerator.h"
 #include "TestLedgerController.h"
 
 #include "model/MonthDataList.h"
+#include "search/StringUtility.h"
 #include "model/YearDataList.h"
 
 #include <benchmark/benchmark.h>
@@ -44,6 +45,30 @@ void BM_MonthDataHasChanged(benchmark::State &state)
     }
 }
 BENCHMARK(BM_MonthDataHasChanged)->Unit(benchmark::kMicrosecond);
+
+// A search as the list window builds it from a filled-in panel: days,
+// keywords, an amount range and two categories.
+void BM_MonthExtractList(benchmark::State &state)
+{
+    TestLedgerController controller(LedgerGenerator::categoryNames(), LedgerGenerator::paywayNames());
+    LedgerGenerator generator;
+    MonthDataList list(2006, 5);
+    list.setDataListArray(generator.monthRecords(2006, 5, kPerMonth));
+    list.dataHasChanged();
+    ExtractKeyDict keys;
+    keys.incomeNumber = int(LedgerGenerator::categoryNames().size()) - 1;
+    keys.date = separateDateKeyToArray(u"1-20,25");
+    keys.details = separateStringKeyToArray(u"Supermarket Bakery Lunch");
+    keys.category = QList<int>{0, 1};
+    keys.amountMin = 200;
+    keys.amountMax = 5000;
+    list.setextractKeyDict(keys);
+    for (auto _ : state) {
+        list.extractList();
+        benchmark::DoNotOptimize(list.extractedTotal());
+    }
+}
+BENCHMARK(BM_MonthExtractList)->Unit(benchmark::kMicrosecond);
 
 void BM_YearCalcSumOfData(benchmark::State &state)
 {

@@ -18,6 +18,7 @@ packages=(
   libcrypt-dev
   libbenchmark-dev
   libplist-dev
+  poppler-utils
   desktop-file-utils
   shared-mime-info
   xvfb

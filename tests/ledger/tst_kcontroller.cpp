@@ -69,6 +69,9 @@ private slots:
     void closingDayMonths_data();
     void closingDayMonths();
     void closingDayMonthFollowsItsCalendarMonths();
+    void closingDayMonthKeepsItsSearch();
+    void dayBelongsToItsClosingMonth_data();
+    void dayBelongsToItsClosingMonth();
 
 private:
     TestDataFolder m_home;
@@ -545,6 +548,44 @@ void TestKController::closingDayMonthFollowsItsCalendarMonths()
     QTest::ignoreMessage(QtWarningMsg, "Invalid Access to ModifMonthList!! MakeNewData");
     list->MakeNewData();
     QCOMPARE(detailsOf(list->dataListArray()), QStringList{u"march"_s});
+}
+
+void TestKController::closingDayMonthKeepsItsSearch()
+{
+    Settings settings;
+    settings.setChangeMonthLastDate(true);
+    settings.setMonthLastDate(25);
+    KController controller;
+    const auto tea = record(2006, 2, 27, u"tea"_s);
+    controller.addData({tea, record(2006, 3, 2, u"bread"_s)});
+    const auto list = controller.listForYear(2006, 3, true);
+    ExtractKeyDict keys;
+    keys.details = QStringList{u"tea"_s};
+    list->setextractKeyDict(keys);
+    list->extractList();
+
+    tea->setAmount(300);
+    QCOMPARE(detailsOf(list->extractedArray()), QStringList{u"tea"_s});
+    QCOMPARE(list->extractedTotal(), 300.0f);
+}
+
+void TestKController::dayBelongsToItsClosingMonth_data()
+{
+    QTest::addColumn<QDate>("day");
+    QTest::addColumn<int>("lastDate");
+    QTest::addColumn<QDate>("month");
+    QTest::newRow("on the closing day") << QDate(2006, 5, 25) << 25 << QDate(2006, 5, 1);
+    QTest::newRow("after the closing day") << QDate(2006, 5, 26) << 25 << QDate(2006, 6, 1);
+    QTest::newRow("into the next year") << QDate(2006, 12, 31) << 20 << QDate(2007, 1, 1);
+    QTest::newRow("closing on the 31st") << QDate(2006, 4, 30) << 31 << QDate(2006, 4, 1);
+}
+
+void TestKController::dayBelongsToItsClosingMonth()
+{
+    QFETCH(QDate, day);
+    QFETCH(int, lastDate);
+    QFETCH(QDate, month);
+    QCOMPARE(ModifMonthList::closingMonthOf(day, lastDate), month);
 }
 
 QTEST_GUILESS_MAIN(TestKController)

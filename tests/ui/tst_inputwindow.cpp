@@ -206,7 +206,7 @@ void TestInputWindow::tabPastTheLastRowAddsOne()
 
     // Closing leaves the three fixed rows, and the third is last again.
     m_window->close();
-    QVERIFY(!Settings().windowGeometry(SettingsKeys::InputWindow).isEmpty());
+    QVERIFY(!Settings().savedLayout(SettingsKeys::InputWindow).isEmpty());
     QCOMPARE(m_window->numberOfRows(), 3);
     QVERIFY(!m_window->getControlWithTag(41));
     showWindow();

@@ -67,7 +67,15 @@ void ModifMonthList::initData()
         }
     }
     calcSumOfData();
-    extractAll();
+    // Keeps the search a window stored in this list across rebuilds; a fresh
+    // list has none and so selects everything.
+    extractList();
+}
+
+QDate ModifMonthList::closingMonthOf(const QDate &day, int lastDate)
+{
+    const QDate first(day.year(), day.month(), 1);
+    return lastDate < day.day() ? first.addMonths(1) : first;
 }
 
 void ModifMonthList::notifyChange()

@@ -2,6 +2,7 @@
 
 #include "model/MonthDataList.h"
 
+#include <QDate>
 #include <QMetaObject>
 
 #include <memory>
@@ -17,6 +18,10 @@ public:
     ~ModifMonthList() override;
 
     int lastDate() const { return m_lastDate; }
+
+    // The first day of the closing-day month a day belongs to: a day after
+    // the closing day already counts to the next month.
+    static QDate closingMonthOf(const QDate &day, int lastDate);
 
     // Rebuilds the records and totals from the two calendar months.
     void initData();

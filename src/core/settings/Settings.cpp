@@ -3,6 +3,7 @@
 #include "settings/SettingsKeys.h"
 
 #include <QSettings>
+#include <QVariantList>
 
 Settings::Settings()
     : m_settings(std::make_unique<QSettings>(QStringLiteral("Penwick"), QStringLiteral("Penwick")))
@@ -106,12 +107,73 @@ void Settings::setCommonDescriptionsDB(const QVariantMap &records)
     m_settings->setValue(SettingsKeys::CommonDescriptionsDB, records);
 }
 
-QByteArray Settings::windowGeometry(QAnyStringView name) const
+QList<int> Settings::columnMenuStates() const
+{
+    QList<int> states;
+    const QVariantList values = m_settings->value(SettingsKeys::ColumnMenuStates).toList();
+    states.reserve(values.size());
+    for (const QVariant &value : values)
+        states.append(value.toInt());
+    return states;
+}
+
+void Settings::setColumnMenuStates(const QList<int> &states)
+{
+    QVariantList values;
+    values.reserve(states.size());
+    for (const int state : states)
+        values.append(state);
+    m_settings->setValue(SettingsKeys::ColumnMenuStates, values);
+}
+
+QByteArray Settings::savedLayout(const QString &name) const
 {
     return m_settings->value(name).toByteArray();
 }
 
-void Settings::setWindowGeometry(QAnyStringView name, const QByteArray &geometry)
+void Settings::setSavedLayout(const QString &name, const QByteArray &layout)
 {
-    m_settings->setValue(name, geometry);
+    m_settings->setValue(name, layout);
+}
+
+namespace {
+std::optional<QVariant> valueIfPresent(const QSettings &settings, const QString &key)
+{
+    if (!settings.contains(key))
+        return std::nullopt;
+    return settings.value(key);
+}
+} // namespace
+
+std::optional<bool> Settings::splitViewIsVertical(QStringView name) const
+{
+    const auto value = valueIfPresent(*m_settings, SettingsKeys::splitViewIsVertical(name));
+    return value ? std::optional<bool>(value->toBool()) : std::nullopt;
+}
+
+std::optional<QString> Settings::splitViewVerticalPosition(QStringView name) const
+{
+    const auto value = valueIfPresent(*m_settings, SettingsKeys::splitViewVerticalPosition(name));
+    return value ? std::optional<QString>(value->toString()) : std::nullopt;
+}
+
+std::optional<QString> Settings::splitViewHorizontalPosition(QStringView name) const
+{
+    const auto value = valueIfPresent(*m_settings, SettingsKeys::splitViewHorizontalPosition(name));
+    return value ? std::optional<QString>(value->toString()) : std::nullopt;
+}
+
+void Settings::setSplitViewIsVertical(QStringView name, bool vertical)
+{
+    m_settings->setValue(SettingsKeys::splitViewIsVertical(name), vertical);
+}
+
+void Settings::setSplitViewVerticalPosition(QStringView name, const QString &layout)
+{
+    m_settings->setValue(SettingsKeys::splitViewVerticalPosition(name), layout);
+}
+
+void Settings::setSplitViewHorizontalPosition(QStringView name, const QString &layout)
+{
+    m_settings->setValue(SettingsKeys::splitViewHorizontalPosition(name), layout);
 }

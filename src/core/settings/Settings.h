@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 #include <QVariantList>
 #include <QVariantMap>
 
 #include <memory>
+#include <optional>
 
 class QSettings;
 
@@ -52,9 +54,23 @@ public:
     QVariantMap commonDescriptionsDB() const;
     void setCommonDescriptionsDB(const QVariantMap &records);
 
-    // A window's saved geometry, under the window's own name (SettingsKeys).
-    QByteArray windowGeometry(QAnyStringView name) const;
-    void setWindowGeometry(QAnyStringView name, const QByteArray &geometry);
+    // The state (0 off, 1 on) of each item of the list window's column menu,
+    // in item order; empty when none was saved.
+    QList<int> columnMenuStates() const;
+    void setColumnMenuStates(const QList<int> &states);
+
+    // A layout a widget saves under its own name (a window's frame, a table's
+    // columns), opaque to everyone else; empty when none was saved.
+    QByteArray savedLayout(const QString &name) const;
+    void setSavedLayout(const QString &name, const QByteArray &layout);
+
+    // A split view's three keys under its name; nullopt when absent.
+    std::optional<bool> splitViewIsVertical(QStringView name) const;
+    std::optional<QString> splitViewVerticalPosition(QStringView name) const;
+    std::optional<QString> splitViewHorizontalPosition(QStringView name) const;
+    void setSplitViewIsVertical(QStringView name, bool vertical);
+    void setSplitViewVerticalPosition(QStringView name, const QString &layout);
+    void setSplitViewHorizontalPosition(QStringView name, const QString &layout);
 
 private:
     std::unique_ptr<QSettings> m_settings;

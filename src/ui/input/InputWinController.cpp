@@ -243,7 +243,7 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     setPopupButtonTitle();
     // Room for eight rows at first; the window remembers what the user makes
     // of it.
-    if (!restoreGeometry(Settings().windowGeometry(SettingsKeys::InputWindow))) {
+    if (!restoreGeometry(Settings().savedLayout(SettingsKeys::InputWindow))) {
         const int rowHeight = m_rows.constFirst()->sizeHint().height() + m_rowsLayout->spacing();
         resize(std::max(sizeHint().width(), fontMetrics().averageCharWidth() * 130),
                sizeHint().height() + 5 * rowHeight);
@@ -766,7 +766,7 @@ void InputWinController::reloadDescriptions()
 
 void InputWinController::saveWindowGeometry()
 {
-    Settings().setWindowGeometry(SettingsKeys::InputWindow, saveGeometry());
+    Settings().setSavedLayout(SettingsKeys::InputWindow, saveGeometry());
 }
 
 void InputWinController::closeEvent(QCloseEvent *event)
