@@ -65,3 +65,33 @@ void Settings::setPasswordHash(const QString &hash)
 {
     m_settings->setValue(SettingsKeys::PasswordHash, hash);
 }
+
+int Settings::chartSelection() const
+{
+    return m_settings->value(SettingsKeys::ChartSelection, 0).toInt();
+}
+
+void Settings::setChartSelection(int chart)
+{
+    m_settings->setValue(SettingsKeys::ChartSelection, chart);
+}
+
+int Settings::barChartNumberOfChart() const
+{
+    return m_settings->value(SettingsKeys::BarChartNumberOfChart, 0).toInt();
+}
+
+void Settings::setBarChartNumberOfChart(int count)
+{
+    m_settings->setValue(SettingsKeys::BarChartNumberOfChart, count);
+}
+
+QByteArray Settings::windowGeometry(QLatin1StringView name) const
+{
+    return m_settings->value(name).toByteArray();
+}
+
+void Settings::setWindowGeometry(QLatin1StringView name, const QByteArray &geometry)
+{
+    m_settings->setValue(name, geometry);
+}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+#include <QLatin1StringView>
 #include <QString>
 
 #include <memory>
@@ -35,6 +37,18 @@ public:
     // when there is none.
     QString passwordHash() const;
     void setPasswordHash(const QString &hash);
+
+    // The chart the graph window opens with: 1 pie, 2 bars, 3 lines; any
+    // other value (0 when none was stored) stands for the pie.
+    int chartSelection() const;
+    void setChartSelection(int chart);
+    // How many months the bar chart shows; 0 when none was stored.
+    int barChartNumberOfChart() const;
+    void setBarChartNumberOfChart(int count);
+
+    // A window's saved frame (QWidget::saveGeometry) under its own name.
+    QByteArray windowGeometry(QLatin1StringView name) const;
+    void setWindowGeometry(QLatin1StringView name, const QByteArray &geometry);
 
 private:
     std::unique_ptr<QSettings> m_settings;
