@@ -24,6 +24,7 @@
 #include <QLocale>
 #include <QMenuBar>
 #include <QPainter>
+#include <QPicture>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QScrollArea>
@@ -428,9 +429,17 @@ bool GraphWinController::printTo(QPrinter &printer)
     const double top = headingRect.height() * 1.5;
     const double scale = std::min(page.width() / content->width(),
                                   (page.height() - top) / content->height());
+    // Widgets rendered straight onto a printer become one large bitmap;
+    // recorded as a picture first, they stay lines and text.
+    QPicture picture;
+    QPainter recorder(&picture);
+    content->render(&recorder, QPoint(), QRegion(), QWidget::DrawChildren);
+    recorder.end();
+    // A picture plays back scaled by the printer's resolution over its own.
+    const double playback = double(printer.logicalDpiX()) / picture.logicalDpiX();
     painter.translate(0, top);
-    painter.scale(scale, scale);
-    content->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    painter.scale(scale / playback, scale / playback);
+    painter.drawPicture(0, 0, picture);
     return painter.end();
 }
 
