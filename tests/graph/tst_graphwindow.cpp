@@ -184,10 +184,19 @@ void TestGraphWindow::checksChooseWhatTheChartsInclude()
     QCOMPARE(window->currentGraphView()->chartData().selectedItems(), model->checks());
     QCOMPARE(window->currentGraphView()->chartData().calculateMaxTotal(), 4250);
 
-    model->toggleCheck(1, false);
+    // Clicking a check box turns it over; with Control held, every box
+    // turns the way the clicked one turns.
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    auto *table = child<QTableView>(window.get(), u"listTable"_s);
+    const auto checkBoxOf = [&](int row) {
+        const QRect cell = table->visualRect(model->index(row, GraphCategoryModel::CategoryColumn));
+        return QPoint(cell.left() + 10, cell.center().y());
+    };
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, checkBoxOf(1));
+    QCOMPARE(model->checks(), (QList<bool>{true, false, true, false}));
     QCOMPARE(window->currentGraphView()->chartData().calculateMaxTotal(), 1250);
-    // With Control held, every box turns the way the clicked one turns.
-    model->toggleCheck(3, true);
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::ControlModifier, checkBoxOf(3));
     QCOMPARE(model->checks(), (QList<bool>{true, true, true, true}));
     QCOMPARE(model->index(2, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
     model->toggleCheck(0, true);
@@ -219,15 +228,22 @@ void TestGraphWindow::steppingAndTypingChangeTheMonth()
     QCOMPARE(window->year(), 2008);
     QCOMPARE(window->month(), 1);
 
-    // Typing the month on show changes nothing; another month is fetched.
-    QSignalSpy modelReset(child<QTableView>(window.get(), u"listTable"_s)->model(),
-                          &QAbstractItemModel::dataChanged);
-    month->setValue(1);
-    emit month->editingFinished();
-    QCOMPARE(modelReset.count(), 0);
-    year->setValue(2007);
-    month->setValue(12);
-    emit month->editingFinished();
+    // Typing the month on show changes nothing; another month is fetched
+    // when Return is pressed, not at every digit.
+    QSignalSpy refreshed(child<QTableView>(window.get(), u"listTable"_s)->model(),
+                         &QAbstractItemModel::dataChanged);
+    month->selectAll();
+    QTest::keyClicks(month, u"1"_s);
+    QTest::keyClick(month, Qt::Key_Return);
+    QCOMPARE(refreshed.count(), 0);
+    month->selectAll();
+    QTest::keyClicks(month, u"12"_s);
+    QCOMPARE(window->month(), 1);
+    QTest::keyClick(month, Qt::Key_Return);
+    QCOMPARE(window->year(), 2008);
+    QCOMPARE(window->month(), 12);
+    QCOMPARE(amountShown(0), 0);
+    QTest::keyClick(year, Qt::Key_Down);
     QCOMPARE(window->year(), 2007);
     QCOMPARE(amountShown(0), 700);
 }

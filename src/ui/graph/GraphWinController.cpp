@@ -179,8 +179,12 @@ QWidget *GraphWinController::buildToolRow()
     };
     m_yearTF = field(QStringLiteral("yearTF"), 1, 9999);
     m_monthTF = field(QStringLiteral("monthTF"), 1, 12);
-    for (QSpinBox *spin : {m_yearTF, m_monthTF})
-        connect(spin, &QSpinBox::editingFinished, this, &GraphWinController::changeDataList);
+    // Arrow keys and the wheel step at once; a typed number counts on Return
+    // or when the field is left, not at every digit.
+    for (QSpinBox *spin : {m_yearTF, m_monthTF}) {
+        spin->setKeyboardTracking(false);
+        connect(spin, &QSpinBox::valueChanged, this, &GraphWinController::changeDataList);
+    }
     auto *yearLabel = new QLabel(tr("&Year"), row);
     yearLabel->setBuddy(m_yearTF);
     auto *monthLabel = new QLabel(tr("&Month"), row);
@@ -215,8 +219,7 @@ int GraphWinController::month() const
 
 void GraphWinController::setTargetYear(int year, int month)
 {
-    m_yearTF->setValue(year);
-    m_monthTF->setValue(month);
+    showMonthInFields(MonthStepping::valueOf(year, month));
     changeDataList();
 }
 
@@ -238,6 +241,9 @@ void GraphWinController::moveMonth(int step)
 
 void GraphWinController::showMonthInFields(int value)
 {
+    // Both fields at once: the year alone would name another month.
+    const QSignalBlocker yearBlocker(m_yearTF);
+    const QSignalBlocker monthBlocker(m_monthTF);
     m_yearTF->setValue(value / 100);
     m_monthTF->setValue(value % 100);
 }

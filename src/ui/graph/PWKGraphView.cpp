@@ -215,16 +215,20 @@ bool PWKGraphView::event(QEvent *event)
 
 void PWKGraphView::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton)
-        clickAt(event->position(), false);
-    QWidget::mousePressEvent(event);
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    clickAt(event->position(), false);
 }
 
 void PWKGraphView::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton)
-        clickAt(event->position(), true);
-    QWidget::mouseDoubleClickEvent(event);
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mouseDoubleClickEvent(event);
+        return;
+    }
+    clickAt(event->position(), true);
 }
 
 void PWKGraphView::clickAt(const QPointF &point, bool doubleClick)
