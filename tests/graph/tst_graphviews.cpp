@@ -187,6 +187,18 @@ void TestGraphViews::labelsReadOnTheirSlice()
     QVERIFY(countPixels(image, belowCentre, [](QColor c) { return c.lightness() > 200; }) > 20);
     QVERIFY(near(image.pixelColor(onPie(size, 0, 100)), Qt::blue));
 
+    // A name too long for its slice is cut short inside the pie.
+    setUp(pie, size, {{2008, 1, {{0, 80}}}});
+    pie.setCategoryNames({u"Groceries, household goods and everything else"_s});
+    const QImage longName = render(pie);
+    QVERIFY(countPixels(longName, QRect(140, 180, 20, 80), dark) > 20);
+    const auto outsideThePie = [&](int x, int y) { return std::hypot(x - 150, y - 150) > 136; };
+    int outside = 0;
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x)
+            outside += outsideThePie(x, y) && longName.pixelColor(x, y) != Qt::white ? 1 : 0;
+    QCOMPARE(outside, 0);
+
     // A slice of exactly 20 degrees carries no label.
     setUp(pie, size, {{2008, 1, {{0, 20}, {2, 340}}}});
     pie.setCategoryNames({u"WWWWWWWW"_s, u"Rent"_s, u"Fun"_s});

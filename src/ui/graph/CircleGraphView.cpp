@@ -1,5 +1,6 @@
 #include "graph/CircleGraphView.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
@@ -12,6 +13,8 @@ constexpr double kMinLabelSweep = 20.0;
 // tower over its neighbours.
 constexpr float kMinLabelScale = 0.8f;
 constexpr float kMaxLabelScale = 1.25f;
+// Room kept between a label's end and the rim.
+constexpr double kLabelInset = 6.0;
 } // namespace
 
 CircleGraphView::CircleGraphView(QWidget *parent)
@@ -62,12 +65,22 @@ void CircleGraphView::drawLabel(QPainter &painter, int category, const QPointF &
 {
     const double middle = endAngle + (endAngle - startAngle) * -0.5;
     const double distance = radius > 120.0 ? 30.0 + (radius - 120.0) * 0.5 : 30.0;
-    const QPainterPath text = labelBezierPathForCategory(category, QPointF(0.0, -7.0));
-    const double textWidth = text.boundingRect().width();
+    const QPointF baseline(0.0, -7.0);
+    QPainterPath text = labelBezierPathForCategory(category, baseline);
+    double textWidth = text.boundingRect().width();
     if (textWidth <= 0)
         return;
     const float scale = std::clamp(float((radius + distance * -1.5) * 0.6 / textWidth),
                                    kMinLabelScale, kMaxLabelScale);
+    // A long name is cut short rather than run out of its slice; the tool
+    // tip still gives it whole.
+    const double room = (radius - distance - kLabelInset) / scale;
+    if (textWidth > room) {
+        const QString name = QFontMetricsF(labelFont())
+                                 .elidedText(categoryName(category), Qt::ElideRight, room);
+        text = labelPath(name, baseline);
+        textWidth = text.boundingRect().width();
+    }
     // Labels on the left half are turned round so that they never read
     // upside down; they keep the same stretch of the ray.
     const bool turned = middle > 90.0 || middle < -90.0;

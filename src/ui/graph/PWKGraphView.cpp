@@ -132,8 +132,13 @@ QString PWKGraphView::localizedFormat(const char *key, const QString &english)
 
 QPainterPath PWKGraphView::labelBezierPathForCategory(int category, const QPointF &point) const
 {
+    return labelPath(categoryName(category), point);
+}
+
+QPainterPath PWKGraphView::labelPath(const QString &text, const QPointF &point)
+{
     QPainterPath glyphs;
-    glyphs.addText(QPointF(0, 0), labelFont(), categoryName(category));
+    glyphs.addText(QPointF(0, 0), labelFont(), text);
     // Glyph outlines come with y pointing down; the charts place labels in
     // y-up coordinates.
     return QTransform(1, 0, 0, -1, point.x(), point.y()).map(glyphs);

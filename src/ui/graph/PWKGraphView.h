@@ -63,6 +63,7 @@ public:
     // The category's name as a filled outline in the label font, its baseline
     // starting at `point`, glyphs upright in y-up coordinates.
     QPainterPath labelBezierPathForCategory(int category, const QPointF &point) const;
+    static QPainterPath labelPath(const QString &text, const QPointF &point);
     // Black or white, whichever reads better on the colour.
     static QColor labelColorOn(const QColor &background);
     static QFont labelFont();
