@@ -104,6 +104,7 @@ private slots:
     void lineAxisIsRoundedAndMonthIsRed();
     void lineChartHitsLinesAndMonthLabels();
     void emptyYearShowsAScaleOfOne();
+    void largeAmountsStayBesideTheAxis();
 
 private:
     std::unique_ptr<TestDataFolder> m_home;
@@ -403,6 +404,19 @@ void TestGraphViews::emptyYearShowsAScaleOfOne()
     QCOMPARE(lines.axisLabels(), (QList<qint64>{0, 0, 0, 1}));
     // Narrower than twelve months need: the chart keeps its minimum width.
     QCOMPARE(lines.preferredChartSize().width(), 450);
+}
+
+void TestGraphViews::largeAmountsStayBesideTheAxis()
+{
+    LineGraphView lines;
+    ChartEntries year = ChartData::monthsOfYear(2008);
+    year[0].data = {{0, 12345678}};
+    setUp(lines, QSize(500, 400), year);
+    const QImage image = render(lines);
+    QCOMPARE(lines.axisLabels().last(), 13000000);
+    // Nothing is cut off at the left edge, and the labels keep clear of the axis.
+    QCOMPARE(countPixels(image, QRect(0, 0, 1, 400), dark), 0);
+    QCOMPARE(countPixels(image, QRect(46, 0, 3, 330), dark), 0);
 }
 
 QTEST_MAIN(TestGraphViews)

@@ -2,6 +2,7 @@
 
 #include "graph/ScaleRounding.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPathStroker>
 
@@ -13,6 +14,7 @@ constexpr double kLeft = 50.0;   // the amount axis
 constexpr double kBottom = 60.0; // the month axis
 constexpr double kEdge = 10.0;
 constexpr double kLabelSpacing = 50.0;
+constexpr double kAxisLabelWidth = 45.0;
 constexpr double kLineWidth = 3.0;
 constexpr double kHighlightedLineWidth = 5.0;
 // A line is hit within a few points of its stroke.
@@ -76,11 +78,21 @@ void LineGraphView::drawChart(QPainter &painter)
     const qint64 max = roundUpMax(chartData().maxAmountOfCategories(categoryCount()));
     m_axisMaximum = max;
     m_axisLabels = amountAxisValues(max, int(h / kLabelSpacing));
+    // Large amounts take a smaller font rather than run off the left edge.
+    QFont axisFont = font();
+    double widest = 0;
+    for (const qint64 value : std::as_const(m_axisLabels))
+        widest = std::max(widest, QFontMetricsF(axisFont).horizontalAdvance(QString::number(value)));
+    if (widest > kAxisLabelWidth - 1.0)
+        axisFont.setPointSizeF(axisFont.pointSizeF() * (kAxisLabelWidth - 1.0) / widest);
+    painter.save();
+    painter.setFont(axisFont);
     for (const qint64 value : std::as_const(m_axisLabels)) {
         const double y = graphHeight / double(max) * double(value) + kBottom - 8.0;
-        drawText(painter, QRectF(0, y, 45.0, 16.0), Qt::AlignRight | Qt::AlignVCenter,
+        drawText(painter, QRectF(0, y, kAxisLabelWidth, 16.0), Qt::AlignRight | Qt::AlignVCenter,
                  QString::number(value));
     }
+    painter.restore();
 
     QPainterPathStroker hitArea;
     hitArea.setWidth(kHitWidth);
