@@ -163,7 +163,8 @@ QWidget *GraphWinController::buildToolRow()
                                    tr("Show one month fewer"));
     m_addBarButton = toolButton(QStringLiteral("addBarButton"), QStringLiteral("+"),
                                 tr("Show one month more"));
-    connect(m_deleteBarButton, &QToolButton::clicked, this, [this] { m_barGraphView->deleteBar(); });
+    connect(m_deleteBarButton, &QToolButton::clicked, this,
+            [this] { m_barGraphView->deleteBar(); });
     connect(m_addBarButton, &QToolButton::clicked, this, [this] { m_barGraphView->addBar(); });
     layout->addWidget(m_deleteBarButton);
     layout->addWidget(m_addBarButton);
@@ -252,7 +253,8 @@ void GraphWinController::readListPreference()
 {
     const QString folder = m_controller->dataFolderPath();
     QStringList names;
-    const QVariantList storedNames = ListFile::preferenceDataListForKey(folder, ListFile::CategoryList);
+    const QVariantList storedNames =
+        ListFile::preferenceDataListForKey(folder, ListFile::CategoryList);
     for (const QVariant &name : storedNames)
         names.append(name.toString());
     QList<QColor> colors = ArchivedColor::fromArchives(
@@ -422,8 +424,10 @@ bool GraphWinController::printTo(QPrinter &printer)
     // A heading naming the month, then table and chart as the window shows
     // them, scaled to fit the page.
     QWidget *content = m_listTable->parentWidget();
-    const QString heading = QLocale().toString(QDate(year(), month(), 1), QStringLiteral("MMMM yyyy"))
-        + QStringLiteral(" — ") + m_graphPpButton->currentText();
+    const QString shownMonth = QLocale().toString(
+        QDate(year(), month(), 1), tr("MMMM yyyy", "date format of the printed heading"));
+    const QString heading = tr("%1 — %2", "printed heading: month, chart")
+                                .arg(shownMonth, m_graphPpButton->currentText());
     QFont headingFont = font();
     headingFont.setPointSizeF(headingFont.pointSizeF() * 1.4);
     headingFont.setBold(true);

@@ -47,8 +47,8 @@ QPointF LineGraphView::pointOfCategory(int category, int month, double monthWidt
 {
     const double x = monthWidth * (month - 0.5) + kLeft - kEdge;
     const qint64 amount = chartData().amountOf(month - 1, category);
-    const double y = amount == 0 ? kBottom
-                                 : double(float(amount) * float(graphHeight) / float(max)) + kBottom;
+    const double y =
+        amount == 0 ? kBottom : double(float(amount) * float(graphHeight) / float(max)) + kBottom;
     return {x, y};
 }
 
@@ -82,7 +82,8 @@ void LineGraphView::drawChart(QPainter &painter)
     QFont axisFont = font();
     double widest = 0;
     for (const qint64 value : std::as_const(m_axisLabels))
-        widest = std::max(widest, QFontMetricsF(axisFont).horizontalAdvance(QString::number(value)));
+        widest = std::max(widest,
+                          QFontMetricsF(axisFont).horizontalAdvance(QString::number(value)));
     if (widest > kAxisLabelWidth - 1.0)
         axisFont.setPointSizeF(axisFont.pointSizeF() * (kAxisLabelWidth - 1.0) / widest);
     painter.save();
