@@ -148,7 +148,11 @@ void TestGraphWindow::opensWithTheChartLastChosen()
     QCOMPARE(child<QToolButton>(window.get(), u"addBarButton"_s)->isVisible(),
              chart == u"BarGraphView"_s);
 
-    window->changeGraph(3);
+    // Opening remembers nothing; choosing in the pop-up does.
+    QCOMPARE(Settings().chartSelection(), stored.toInt());
+    popUp->setCurrentIndex(0);
+    QTest::keyClick(popUp, Qt::Key_Down);
+    QTest::keyClick(popUp, Qt::Key_Down);
     QCOMPARE(Settings().chartSelection(), 3);
     QVERIFY(qobject_cast<LineGraphView *>(window->currentGraphView()));
     QCOMPARE(window->currentGraphView()->targetYear(), 2008);

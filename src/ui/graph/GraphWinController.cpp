@@ -83,9 +83,7 @@ GraphWinController::GraphWinController(KController *controller, QWidget *parent)
     m_circleGraphView = new CircleGraphView(this);
     m_barGraphView = new BarGraphView(this);
     m_lineGraphView = new LineGraphView(this);
-    for (PWKGraphView *view : {static_cast<PWKGraphView *>(m_circleGraphView),
-                               static_cast<PWKGraphView *>(m_barGraphView),
-                               static_cast<PWKGraphView *>(m_lineGraphView)}) {
+    for (PWKGraphView *view : graphViews()) {
         view->hide();
         view->setDataSource(m_source.get());
         connect(view, &PWKGraphView::itemSelected, this, &GraphWinController::selectItem);
@@ -95,9 +93,8 @@ GraphWinController::GraphWinController(KController *controller, QWidget *parent)
                 &GraphWinController::categoryListRequested);
     }
     connect(m_model, &GraphCategoryModel::checksChanged, this, [this](const QList<bool> &checks) {
-        m_circleGraphView->setSelectedItems(checks);
-        m_barGraphView->setSelectedItems(checks);
-        m_lineGraphView->setSelectedItems(checks);
+        for (PWKGraphView *view : graphViews())
+            view->setSelectedItems(checks);
     });
 
     auto *notifications = Notifications::instance();
@@ -114,8 +111,7 @@ GraphWinController::GraphWinController(KController *controller, QWidget *parent)
     m_stepperValue = MonthStepping::valueOf(start.year(), start.month());
     showMonthInFields(m_stepperValue);
     readListPreference();
-    const int chart = settings.chartSelection();
-    changeGraph(chart == BarChart || chart == LineChart ? chart : PieChart);
+    showChart(settings.chartSelection());
 
     resize(820, 520);
     restoreGeometry(settings.windowGeometry(SettingsKeys::GraphWindow));
@@ -262,9 +258,7 @@ void GraphWinController::readListPreference()
     // Every category is drawn, even one the colour list lacks.
     colors.resize(names.size(), QColor(Qt::gray));
 
-    for (PWKGraphView *view : {static_cast<PWKGraphView *>(m_circleGraphView),
-                               static_cast<PWKGraphView *>(m_barGraphView),
-                               static_cast<PWKGraphView *>(m_lineGraphView)}) {
+    for (PWKGraphView *view : graphViews()) {
         view->setCategoryNames(names);
         view->setColorList(colors);
     }
@@ -298,28 +292,26 @@ void GraphWinController::reloadData()
         m_currentGraphView->updateDataList();
 }
 
+std::array<PWKGraphView *, 3> GraphWinController::graphViews() const
+{
+    return {m_circleGraphView, m_barGraphView, m_lineGraphView};
+}
+
 void GraphWinController::changeGraph(int chart)
 {
-    PWKGraphView *view = nullptr;
-    switch (chart) {
-    case PieChart:
-        view = m_circleGraphView;
-        break;
-    case BarChart:
-        view = m_barGraphView;
-        break;
-    case LineChart:
-        view = m_lineGraphView;
-        break;
-    default:
-        break;
-    }
-    if (view) {
-        setCurrentGraphView(view);
-        const QSignalBlocker blocker(m_graphPpButton);
-        m_graphPpButton->setCurrentIndex(chart - 1);
-    }
+    if (chart >= PieChart && chart <= LineChart)
+        showChart(chart);
     Settings().setChartSelection(chart);
+}
+
+void GraphWinController::showChart(int chart)
+{
+    // Anything but the bars or the lines is the pie.
+    if (chart != BarChart && chart != LineChart)
+        chart = PieChart;
+    setCurrentGraphView(graphViews().at(std::size_t(chart - PieChart)));
+    const QSignalBlocker blocker(m_graphPpButton);
+    m_graphPpButton->setCurrentIndex(chart - PieChart);
 }
 
 void GraphWinController::setCurrentGraphView(PWKGraphView *view)

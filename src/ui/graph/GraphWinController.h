@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 
+#include <array>
 #include <memory>
 
 class BarGraphView;
@@ -77,6 +78,9 @@ protected:
 private:
     void buildMenus();
     QWidget *buildToolRow();
+    std::array<PWKGraphView *, 3> graphViews() const;
+    // Shows the chart without remembering the choice.
+    void showChart(int chart);
     void setCurrentGraphView(PWKGraphView *view);
     void changeDataList();
     void showMonthInFields(int value);
