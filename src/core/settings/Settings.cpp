@@ -126,6 +126,26 @@ void Settings::setColumnMenuStates(const QList<int> &states)
     m_settings->setValue(SettingsKeys::ColumnMenuStates, values);
 }
 
+int Settings::chartSelection() const
+{
+    return m_settings->value(SettingsKeys::ChartSelection, 0).toInt();
+}
+
+void Settings::setChartSelection(int chart)
+{
+    m_settings->setValue(SettingsKeys::ChartSelection, chart);
+}
+
+int Settings::barChartNumberOfChart() const
+{
+    return m_settings->value(SettingsKeys::BarChartNumberOfChart, 0).toInt();
+}
+
+void Settings::setBarChartNumberOfChart(int count)
+{
+    m_settings->setValue(SettingsKeys::BarChartNumberOfChart, count);
+}
+
 QByteArray Settings::savedLayout(const QString &name) const
 {
     return m_settings->value(name).toByteArray();

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QLatin1StringView>
 #include <QString>
 #include <QVariantList>
 #include <QVariantMap>
@@ -71,6 +72,13 @@ public:
     void setSplitViewIsVertical(QStringView name, bool vertical);
     void setSplitViewVerticalPosition(QStringView name, const QString &layout);
     void setSplitViewHorizontalPosition(QStringView name, const QString &layout);
+    // The chart the graph window opens with: 1 pie, 2 bars, 3 lines; any
+    // other value (0 when none was stored) stands for the pie.
+    int chartSelection() const;
+    void setChartSelection(int chart);
+    // How many months the bar chart shows; 0 when none was stored.
+    int barChartNumberOfChart() const;
+    void setBarChartNumberOfChart(int count);
 
 private:
     std::unique_ptr<QSettings> m_settings;
