@@ -1,5 +1,6 @@
 #include "ledger/KController.h"
 
+#include "ledger/ConversionJournal.h"
 #include "ledger/DataFolder.h"
 #include "model/ModifMonthList.h"
 #include "model/MonthDataList.h"
@@ -22,6 +23,30 @@ constexpr int kSaveDelayMs = 1000;
 int cacheKey(int year, int month)
 {
     return year * 100 + month;
+}
+
+void setError(QString *error, const QString &text)
+{
+    if (error)
+        *error = text;
+}
+
+// The month file the list would be written as, renumbered. The cached list
+// itself stays as it is until the folder holds the new numbers.
+QByteArray encodeConverted(const MonthDataList &month, const ListConversion &conversion)
+{
+    PaymentArray records;
+    records.reserve(month.dataListArray().size());
+    for (const PaymentDataPtr &r : month.dataListArray()) {
+        records.append(std::make_shared<PaymentData>(
+            r->year(), r->month(), r->date(),
+            conversion.categoryMap.value(r->category(), r->category()), r->details(),
+            r->amount(), conversion.paywayMap.value(r->payway(), r->payway())));
+    }
+    MonthDataList converted(month.year(), month.month());
+    converted.setDataListArray(records);
+    converted.setSummary(month.summary());
+    return MonthFile::encode(converted);
 }
 } // namespace
 
@@ -276,29 +301,150 @@ void KController::deleteData(const PaymentArray &records, int year, int month)
         list->deleteData(records);
 }
 
-void KController::convertCategory(const ConversionMap &map)
+bool KController::convertCategory(const ConversionMap &map)
 {
-    convertAllMonths([&map](MonthDataList &month) { month.convertCategory(map); });
+    return convertStoredData({map, {}, {}});
 }
 
-void KController::convertPayway(const ConversionMap &map)
+bool KController::convertPayway(const ConversionMap &map)
 {
-    convertAllMonths([&map](MonthDataList &month) { month.convertPayway(map); });
+    return convertStoredData({{}, map, {}});
 }
 
-void KController::convertAllMonths(const std::function<void(MonthDataList &)> &convert)
+bool KController::convertStoredData(const ListConversion &conversion, QString *error)
 {
+    ConversionJournal journal(dataFolderPath());
+    if (!journal.read(error))
+        return false;
+    if (journal.phase() != ConversionJournal::Phase::None) {
+        setError(error, tr("An earlier change of the lists has not been finished yet."));
+        return false;
+    }
+    return runConversion(conversion, error);
+}
+
+QList<MonthDataList *> KController::cachedMonths() const
+{
+    QList<MonthDataList *> months;
+    for (const std::shared_ptr<DataList> &list : m_listStock) {
+        if (auto *month = dynamic_cast<MonthDataList *>(list.get()))
+            months.append(month);
+    }
+    return months;
+}
+
+bool KController::runConversion(const ListConversion &conversion, QString *error)
+{
+    const QString folder = dataFolderPath();
+    // The files must hold what the cache holds before the cache is written
+    // out renumbered: loading may move records into other months, and
+    // saving writes those.
+    loadMonthFiles();
+    saveAllEditedData();
+    const auto months = loadMonthFiles();
+    for (const MonthDataList *month : cachedMonths()) {
+        const QString date = QStringLiteral("%1/%2").arg(month->month()).arg(month->year());
+        if (month->isReadOnly()) {
+            setError(error, tr("The entries of %1 cannot be read, so none of the stored entries "
+                               "has been renumbered and the lists are unchanged. Mend or remove "
+                               "the file %2 first.")
+                                .arg(date, filePathForYear(month->year(), month->month())));
+            return false;
+        }
+        if (month->isEdited()) {
+            setError(error, tr("The entries of %1 could not be saved, so none of the stored "
+                               "entries has been renumbered and the lists are unchanged.")
+                                .arg(date));
+            return false;
+        }
+    }
+
+    if (!conversion.renumbers()) {
+        if (!conversion.lists.isEmpty() && !ListFile::setPreferenceDataLists(folder, conversion.lists)) {
+            setError(error, tr("The list file %1 could not be written.")
+                                .arg(ListFile::dictionaryPathString(folder)));
+            return false;
+        }
+        readListPreference();
+        return true;
+    }
+
+    QStringList files;
+    files.reserve(months.size());
+    for (const auto &month : months)
+        files.append(QFileInfo(filePathForYear(month->year(), month->month())).fileName());
+    const int count = int(files.size());
+    const int total = 2 * count;
+
+    ConversionJournal journal(folder);
+    if (!journal.begin(conversion, files, error)) {
+        journal.abandon();
+        return false;
+    }
+    for (int i = 0; i < count; ++i) {
+        if (!journal.writeMonth(files.at(i), encodeConverted(*months.at(i), conversion), error)) {
+            journal.abandon();
+            return false;
+        }
+        emit conversionProgress(i + 1, total);
+    }
+    if (!journal.commit(error)) {
+        journal.abandon();
+        return false;
+    }
+    const bool finished = journal.finish(
+        [this, count, total](int done) { emit conversionProgress(count + done, total); }, error);
+    const QList<MonthDataList *> cached = cachedMonths();
+    if (!finished) {
+        // Some months hold the new numbers and some do not yet; the next start
+        // completes the change. Until then nothing of the old numbering may
+        // be written back.
+        for (MonthDataList *month : cached)
+            month->setReadOnly(true);
+        return false;
+    }
+
     // Each record reports its change; re-sorting its month for every one of
     // them would make renumbering decades of entries crawl. The month is
     // brought up to date once, after all its records.
     m_converting = true;
-    const auto months = loadMonthFiles();
-    for (const std::shared_ptr<MonthDataList> &month : months) {
-        convert(*month);
-        month->notifyChange();
+    for (MonthDataList *month : cached) {
+        if (!conversion.categoryMap.isEmpty())
+            month->convertCategory(conversion.categoryMap);
+        if (!conversion.paywayMap.isEmpty())
+            month->convertPayway(conversion.paywayMap);
     }
     m_converting = false;
-    saveAllEditedData();
+    readListPreference();
+    for (MonthDataList *month : cached) {
+        month->notifyChange();
+        month->setIsEdited(false); // the files hold these numbers already
+    }
+    return true;
+}
+
+bool KController::finishInterruptedConversion(QString *error)
+{
+    ConversionJournal journal(dataFolderPath());
+    if (!journal.read(error))
+        return false;
+    switch (journal.phase()) {
+    case ConversionJournal::Phase::None:
+        return true;
+    case ConversionJournal::Phase::Commit:
+        return journal.finish({}, error);
+    case ConversionJournal::Phase::Prepare:
+        break;
+    }
+    // Not one month was replaced yet: start the change again from the top.
+    const ListConversion conversion = journal.conversion();
+    journal.abandon();
+    QString reason;
+    if (runConversion(conversion, &reason))
+        return true;
+    setError(error, tr("A change of the category and payway lists was interrupted and could not "
+                       "be finished: %1").arg(reason));
+    return false;
 }
 
 bool KController::setUpFirstStart()
