@@ -17,6 +17,8 @@
 #include <QSaveFile>
 #include <QtDebug>
 
+#include <algorithm>
+
 namespace {
 constexpr int kSaveDelayMs = 1000;
 
@@ -179,6 +181,8 @@ bool KController::writeDataListToFile(MonthDataList *list)
 {
     if (!list)
         return false;
+    if (m_conversionRunning)
+        return false; // stays edited; saved once the conversion is through
     const QString path = filePathForYear(list->year(), list->month());
     if (list->isReadOnly()) {
         emit monthFileNotWritten(
@@ -242,13 +246,19 @@ void KController::resaveAllDataFile()
     }
 }
 
-void KController::releaseAllDataWithSave(bool save)
+bool KController::releaseAllDataWithSave(bool save)
 {
-    if (save)
+    if (save) {
         saveAllEditedData();
+        const QList<MonthDataList *> months = cachedMonths();
+        if (std::any_of(months.cbegin(), months.cend(),
+                        [](const MonthDataList *month) { return month->isEdited(); }))
+            return false;
+    }
     m_saveTimer.stop();
     m_listStock.clear();
     m_dataFolder.clear();
+    return true;
 }
 
 QMap<int, PaymentArray> KController::assortDataArray(const PaymentArray &records)
@@ -336,6 +346,16 @@ QList<MonthDataList *> KController::cachedMonths() const
 bool KController::runConversion(const ListConversion &conversion, QString *error)
 {
     const QString folder = dataFolderPath();
+    if (!conversion.renumbers()) {
+        if (!conversion.lists.isEmpty() && !ListFile::setPreferenceDataLists(folder, conversion.lists)) {
+            setError(error, tr("The list file %1 could not be written.")
+                                .arg(ListFile::dictionaryPathString(folder)));
+            return false;
+        }
+        readListPreference();
+        return true;
+    }
+
     // The files must hold what the cache holds before the cache is written
     // out renumbered: loading may move records into other months, and
     // saving writes those.
@@ -359,16 +379,6 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
         }
     }
 
-    if (!conversion.renumbers()) {
-        if (!conversion.lists.isEmpty() && !ListFile::setPreferenceDataLists(folder, conversion.lists)) {
-            setError(error, tr("The list file %1 could not be written.")
-                                .arg(ListFile::dictionaryPathString(folder)));
-            return false;
-        }
-        readListPreference();
-        return true;
-    }
-
     QStringList files;
     files.reserve(months.size());
     for (const auto &month : months)
@@ -376,24 +386,26 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
     const int count = int(files.size());
     const int total = 2 * count;
 
+    // Whoever shows progress may let the event loop run; nothing else may
+    // write a month until the folder is through.
+    m_conversionRunning = true;
     ConversionJournal journal(folder);
-    if (!journal.begin(conversion, files, error)) {
+    bool decided = journal.begin(conversion, files, error);
+    for (int i = 0; decided && i < count; ++i) {
+        decided = journal.writeMonth(files.at(i), encodeConverted(*months.at(i), conversion), error);
+        if (decided)
+            emit conversionProgress(i + 1, total);
+    }
+    decided = decided && journal.commit(error);
+    if (!decided) {
         journal.abandon();
+        m_conversionRunning = false;
         return false;
     }
-    for (int i = 0; i < count; ++i) {
-        if (!journal.writeMonth(files.at(i), encodeConverted(*months.at(i), conversion), error)) {
-            journal.abandon();
-            return false;
-        }
-        emit conversionProgress(i + 1, total);
-    }
-    if (!journal.commit(error)) {
-        journal.abandon();
-        return false;
-    }
+    QString reason;
     const bool finished = journal.finish(
-        [this, count, total](int done) { emit conversionProgress(count + done, total); }, error);
+        [this, count, total](int done) { emit conversionProgress(count + done, total); }, &reason);
+    m_conversionRunning = false;
     const QList<MonthDataList *> cached = cachedMonths();
     if (!finished) {
         // Some months hold the new numbers and some do not yet; the next start
@@ -401,14 +413,19 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
         // be written back.
         for (MonthDataList *month : cached)
             month->setReadOnly(true);
+        setError(error, tr("%1 The change is completed the next time Penwick starts; until then "
+                           "no month is saved.").arg(reason));
         return false;
     }
 
     // Each record reports its change; re-sorting its month for every one of
     // them would make renumbering decades of entries crawl. The month is
     // brought up to date once, after all its records.
+    QList<bool> changedMeanwhile;
+    changedMeanwhile.reserve(cached.size());
     m_converting = true;
     for (MonthDataList *month : cached) {
+        changedMeanwhile.append(month->isEdited());
         if (!conversion.categoryMap.isEmpty())
             month->convertCategory(conversion.categoryMap);
         if (!conversion.paywayMap.isEmpty())
@@ -416,10 +433,13 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
     }
     m_converting = false;
     readListPreference();
-    for (MonthDataList *month : cached) {
-        month->notifyChange();
-        month->setIsEdited(false); // the files hold these numbers already
+    for (qsizetype i = 0; i < cached.size(); ++i) {
+        cached.at(i)->notifyChange();
+        // The files hold these numbers already, unless the month changed
+        // while the folder was being converted.
+        cached.at(i)->setIsEdited(changedMeanwhile.at(i));
     }
+    saveAllEditedData();
     return true;
 }
 

@@ -53,8 +53,10 @@ public:
     void saveAllEditedData();
     // Loads every month and writes each one again, edited or not.
     void resaveAllDataFile();
-    // Optionally saves, then forgets every loaded list and the folder.
-    void releaseAllDataWithSave(bool save);
+    // Optionally saves, then forgets every loaded list and the folder. When
+    // saving, a month that could not be written keeps everything loaded and
+    // answers false, so that no edit is dropped.
+    bool releaseAllDataWithSave(bool save);
 
     // The records grouped by year * 100 + month, each group in the given order.
     static QMap<int, PaymentArray> assortDataArray(const PaymentArray &records);
@@ -118,7 +120,11 @@ private:
     QString m_dataFolder;
     QStringList m_categoryList;
     QStringList m_paywayList;
+    // Records renumbered in memory report nothing.
     bool m_converting = false;
+    // While the folder is renumbered, only the conversion writes to it; a
+    // month changed meanwhile stays edited and is saved afterwards.
+    bool m_conversionRunning = false;
     // Edited months reach the disk about a second after the last change, not
     // only at quit.
     QTimer m_saveTimer;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QAnyStringView>
+#include <QByteArray>
 #include <QString>
 
 #include <memory>
@@ -35,6 +37,21 @@ public:
     // when there is none.
     QString passwordHash() const;
     void setPasswordHash(const QString &hash);
+
+    // The windows that may open at start, in the order of their keys.
+    enum class StartWindow { Input, List, Graph, Balance };
+    // Whether the window opens at start; by default only the input window.
+    bool openWindow(StartWindow window) const;
+    void setOpenWindow(StartWindow window, bool open);
+
+    // Which button Return presses in the input window: 0 or 1 its OK button,
+    // 2 its input button, anything larger none.
+    int returnInputDefault() const;
+    void setReturnInputDefault(int which);
+
+    // A window's saved frame, under the window's own name.
+    QByteArray windowGeometry(QAnyStringView name) const;
+    void setWindowGeometry(QAnyStringView name, const QByteArray &geometry);
 
 private:
     std::unique_ptr<QSettings> m_settings;
