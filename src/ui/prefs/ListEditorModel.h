@@ -53,7 +53,8 @@ public:
                   const QModelIndex &destinationParent, int destinationChild) override;
 
 signals:
-    // A new name was refused: empty, or already in the list.
+    // A new name was refused: empty, or already in the list. Keeping the
+    // item's own name is not refused, only ignored.
     void nameRefused(int row, const QString &name);
 
 private:
