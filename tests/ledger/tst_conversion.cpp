@@ -179,6 +179,10 @@ void TestConversion::aKilledConversionIsFinishedAtTheNextStart()
     ConversionJournal journal(m_folder);
     QVERIFY(journal.read(nullptr));
     QCOMPARE(journal.phase(), phase);
+    if (phase == ConversionJournal::Phase::Prepare) {
+        // What a kill in the middle of writing a side file leaves behind.
+        writeBytes(QDir(m_folder).filePath(u"Data_2001_2.Penwick.converting.k1Xy9Q"_s), "torn");
+    }
 
     KController nextStart;
     QString error;

@@ -219,8 +219,13 @@ bool ConversionJournal::finish(const std::function<void(int)> &replaced, QString
 
 void ConversionJournal::abandon()
 {
-    for (const QString &name : std::as_const(m_files))
-        QFile::remove(sideFilePath(pathOf(name)));
+    // The side files, and the temporary file of one whose writing was cut
+    // short.
+    const QDir folder(m_folder);
+    const QStringList sideFiles = folder.entryList({u"*.converting"_s, u"*.converting.*"_s},
+                                                   QDir::Files | QDir::Hidden);
+    for (const QString &name : sideFiles)
+        QFile::remove(folder.filePath(name));
     QFile::remove(journalPath(m_folder));
     syncFolder(m_folder, nullptr);
     m_phase = Phase::None;
