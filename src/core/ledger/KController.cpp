@@ -1,5 +1,6 @@
 #include "ledger/KController.h"
 
+#include "ledger/ConversionJournal.h"
 #include "ledger/DataFolder.h"
 #include "model/ModifMonthList.h"
 #include "model/MonthDataList.h"
@@ -24,6 +25,30 @@ constexpr int kSaveDelayMs = 1000;
 int cacheKey(int year, int month)
 {
     return year * 100 + month;
+}
+
+void setError(QString *error, const QString &text)
+{
+    if (error)
+        *error = text;
+}
+
+// The month file the list would be written as, renumbered. The cached list
+// itself stays as it is until the folder holds the new numbers.
+QByteArray encodeConverted(const MonthDataList &month, const ListConversion &conversion)
+{
+    PaymentArray records;
+    records.reserve(month.dataListArray().size());
+    for (const PaymentDataPtr &r : month.dataListArray()) {
+        records.append(std::make_shared<PaymentData>(
+            r->year(), r->month(), r->date(),
+            conversion.categoryMap.value(r->category(), r->category()), r->details(),
+            r->amount(), conversion.paywayMap.value(r->payway(), r->payway())));
+    }
+    MonthDataList converted(month.year(), month.month());
+    converted.setDataListArray(records);
+    converted.setSummary(month.summary());
+    return MonthFile::encode(converted);
 }
 } // namespace
 
@@ -156,6 +181,8 @@ bool KController::writeDataListToFile(MonthDataList *list)
 {
     if (!list)
         return false;
+    if (m_conversionRunning)
+        return false; // stays edited; saved once the conversion is through
     const QString path = filePathForYear(list->year(), list->month());
     if (list->isReadOnly()) {
         emit monthFileNotWritten(
@@ -230,13 +257,19 @@ void KController::resaveAllDataFile()
     }
 }
 
-void KController::releaseAllDataWithSave(bool save)
+bool KController::releaseAllDataWithSave(bool save)
 {
-    if (save)
+    if (save) {
         saveAllEditedData();
+        const QList<MonthDataList *> months = cachedMonths();
+        if (std::any_of(months.cbegin(), months.cend(),
+                        [](const MonthDataList *month) { return month->isEdited(); }))
+            return false;
+    }
     m_saveTimer.stop();
     m_listStock.clear();
     m_dataFolder.clear();
+    return true;
 }
 
 QMap<int, PaymentArray> KController::assortDataArray(const PaymentArray &records)
@@ -289,29 +322,160 @@ void KController::deleteData(const PaymentArray &records, int year, int month)
         list->deleteData(records);
 }
 
-void KController::convertCategory(const ConversionMap &map)
+bool KController::convertCategory(const ConversionMap &map)
 {
-    convertAllMonths([&map](MonthDataList &month) { month.convertCategory(map); });
+    return convertStoredData({map, {}, {}});
 }
 
-void KController::convertPayway(const ConversionMap &map)
+bool KController::convertPayway(const ConversionMap &map)
 {
-    convertAllMonths([&map](MonthDataList &month) { month.convertPayway(map); });
+    return convertStoredData({{}, map, {}});
 }
 
-void KController::convertAllMonths(const std::function<void(MonthDataList &)> &convert)
+bool KController::convertStoredData(const ListConversion &conversion, QString *error)
 {
+    ConversionJournal journal(dataFolderPath());
+    if (!journal.read(error))
+        return false;
+    if (journal.phase() != ConversionJournal::Phase::None) {
+        setError(error, tr("An earlier change of the lists has not been finished yet."));
+        return false;
+    }
+    return runConversion(conversion, error);
+}
+
+QList<MonthDataList *> KController::cachedMonths() const
+{
+    QList<MonthDataList *> months;
+    for (const std::shared_ptr<DataList> &list : m_listStock) {
+        if (auto *month = dynamic_cast<MonthDataList *>(list.get()))
+            months.append(month);
+    }
+    return months;
+}
+
+bool KController::runConversion(const ListConversion &conversion, QString *error)
+{
+    const QString folder = dataFolderPath();
+    if (!conversion.renumbers()) {
+        if (!conversion.lists.isEmpty() && !ListFile::setPreferenceDataLists(folder, conversion.lists)) {
+            setError(error, tr("The list file %1 could not be written.")
+                                .arg(ListFile::dictionaryPathString(folder)));
+            return false;
+        }
+        readListPreference();
+        return true;
+    }
+
+    // The files must hold what the cache holds before the cache is written
+    // out renumbered: loading may move records into other months, and
+    // saving writes those.
+    loadMonthFiles();
+    saveAllEditedData();
+    const auto months = loadMonthFiles();
+    for (const MonthDataList *month : cachedMonths()) {
+        const QString date = QStringLiteral("%1/%2").arg(month->month()).arg(month->year());
+        if (month->isReadOnly()) {
+            setError(error, tr("The entries of %1 cannot be read, so none of the stored entries "
+                               "has been renumbered and the lists are unchanged. Mend or remove "
+                               "the file %2 first.")
+                                .arg(date, filePathForYear(month->year(), month->month())));
+            return false;
+        }
+        if (month->isEdited()) {
+            setError(error, tr("The entries of %1 could not be saved, so none of the stored "
+                               "entries has been renumbered and the lists are unchanged.")
+                                .arg(date));
+            return false;
+        }
+    }
+
+    QStringList files;
+    files.reserve(months.size());
+    for (const auto &month : months)
+        files.append(QFileInfo(filePathForYear(month->year(), month->month())).fileName());
+    const int count = int(files.size());
+    const int total = 2 * count;
+
+    // Whoever shows progress may let the event loop run; nothing else may
+    // write a month until the folder is through.
+    m_conversionRunning = true;
+    ConversionJournal journal(folder);
+    bool decided = journal.begin(conversion, files, error);
+    for (int i = 0; decided && i < count; ++i) {
+        decided = journal.writeMonth(files.at(i), encodeConverted(*months.at(i), conversion), error);
+        if (decided)
+            emit conversionProgress(i + 1, total);
+    }
+    decided = decided && journal.commit(error);
+    if (!decided) {
+        journal.abandon();
+        m_conversionRunning = false;
+        return false;
+    }
+    QString reason;
+    const bool finished = journal.finish(
+        [this, count, total](int done) { emit conversionProgress(count + done, total); }, &reason);
+    m_conversionRunning = false;
+    const QList<MonthDataList *> cached = cachedMonths();
+    if (!finished) {
+        // Some months hold the new numbers and some do not yet; the next start
+        // completes the change. Until then nothing of the old numbering may
+        // be written back.
+        for (MonthDataList *month : cached)
+            month->setReadOnly(true);
+        setError(error, tr("%1 The change is completed the next time Penwick starts; until then "
+                           "no month is saved.").arg(reason));
+        return false;
+    }
+
     // Each record reports its change; re-sorting its month for every one of
     // them would make renumbering decades of entries crawl. The month is
     // brought up to date once, after all its records.
+    QList<bool> changedMeanwhile;
+    changedMeanwhile.reserve(cached.size());
     m_converting = true;
-    const auto months = loadMonthFiles();
-    for (const std::shared_ptr<MonthDataList> &month : months) {
-        convert(*month);
-        month->notifyChange();
+    for (MonthDataList *month : cached) {
+        changedMeanwhile.append(month->isEdited());
+        if (!conversion.categoryMap.isEmpty())
+            month->convertCategory(conversion.categoryMap);
+        if (!conversion.paywayMap.isEmpty())
+            month->convertPayway(conversion.paywayMap);
     }
     m_converting = false;
+    readListPreference();
+    for (qsizetype i = 0; i < cached.size(); ++i) {
+        cached.at(i)->notifyChange();
+        // The files hold these numbers already, unless the month changed
+        // while the folder was being converted.
+        cached.at(i)->setIsEdited(changedMeanwhile.at(i));
+    }
     saveAllEditedData();
+    return true;
+}
+
+bool KController::finishInterruptedConversion(QString *error)
+{
+    ConversionJournal journal(dataFolderPath());
+    if (!journal.read(error))
+        return false;
+    switch (journal.phase()) {
+    case ConversionJournal::Phase::None:
+        return true;
+    case ConversionJournal::Phase::Commit:
+        return journal.finish({}, error);
+    case ConversionJournal::Phase::Prepare:
+        break;
+    }
+    // Not one month was replaced yet: start the change again from the top.
+    const ListConversion conversion = journal.conversion();
+    journal.abandon();
+    QString reason;
+    if (runConversion(conversion, &reason))
+        return true;
+    setError(error, tr("A change of the category and payway lists was interrupted and could not "
+                       "be finished: %1").arg(reason));
+    return false;
 }
 
 bool KController::setUpFirstStart()

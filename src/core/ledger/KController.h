@@ -1,13 +1,12 @@
 #pragma once
 
+#include "ledger/ListConversion.h"
 #include "model/LedgerController.h"
 
 #include <QHash>
 #include <QMap>
 #include <QObject>
 #include <QTimer>
-
-#include <functional>
 
 class MonthDataList;
 
@@ -56,8 +55,10 @@ public:
     void saveAllEditedData();
     // Loads every month and writes each one again, edited or not.
     void resaveAllDataFile();
-    // Optionally saves, then forgets every loaded list and the folder.
-    void releaseAllDataWithSave(bool save);
+    // Optionally saves, then forgets every loaded list and the folder. When
+    // saving, a month that could not be written keeps everything loaded and
+    // answers false, so that no edit is dropped.
+    bool releaseAllDataWithSave(bool save);
 
     // The records grouped by year * 100 + month, each group in the given order.
     static QMap<int, PaymentArray> assortDataArray(const PaymentArray &records);
@@ -69,10 +70,22 @@ public:
     // Removes the records from their months; written at the next save.
     void deleteData(const PaymentArray &records);
     void deleteData(const PaymentArray &records, int year, int month);
-    // Renumbers the categories (or payways) of every month file of the data
-    // folder, then saves.
-    void convertCategory(const ConversionMap &map);
-    void convertPayway(const ConversionMap &map);
+    // Renumbers the entries of every month file of the data folder and writes
+    // the new lists into the list file, as one change: killed half-way, it is
+    // finished by finishInterruptedConversion() at the next start, and every
+    // month is either wholly old or wholly new (see ConversionJournal). The
+    // loaded months are renumbered too and announced. Refused, with nothing
+    // changed, while any month file cannot be read or an edited month cannot
+    // be saved; the reason goes to error.
+    bool convertStoredData(const ListConversion &conversion, QString *error = nullptr);
+    bool convertCategory(const ConversionMap &map);
+    bool convertPayway(const ConversionMap &map);
+    // To be called at start-up, and after a change of data folder, before
+    // any month is read: completes a change of the lists that was cut short.
+    // True when there was none or it is now complete. False, with the reason,
+    // when it could not be completed; a change that had not yet been decided
+    // is then dropped and the folder is as it was before it.
+    bool finishInterruptedConversion(QString *error = nullptr);
 
     // On the very first start (no "Version" yet): writes the initial lists,
     // settles the data folder and remembers both. True when it did.
@@ -93,10 +106,13 @@ signals:
     void monthFileUnreadable(const QString &path, const QString &reason);
     // A month file could not be written; its month stays edited.
     void monthFileNotWritten(const QString &path, const QString &reason);
+    // A conversion of the stored data has done `done` of `total` steps.
+    void conversionProgress(int done, int total);
 
 private:
     QList<std::shared_ptr<MonthDataList>> loadMonthFiles();
-    void convertAllMonths(const std::function<void(MonthDataList &)> &convert);
+    bool runConversion(const ListConversion &conversion, QString *error);
+    QList<MonthDataList *> cachedMonths() const;
     std::shared_ptr<MonthDataList> readMonthFile(int year, int month);
     void settleLoadedList(MonthDataList *list);
     void scheduleSave(DataList *list);
@@ -106,7 +122,11 @@ private:
     QString m_dataFolder;
     QStringList m_categoryList;
     QStringList m_paywayList;
+    // Records renumbered in memory report nothing.
     bool m_converting = false;
+    // While the folder is renumbered, only the conversion writes to it; a
+    // month changed meanwhile stays edited and is saved afterwards.
+    bool m_conversionRunning = false;
     // Edited months reach the disk about a second after the last change, not
     // only at quit.
     QTimer m_saveTimer;

@@ -67,6 +67,34 @@ void Settings::setPasswordHash(const QString &hash)
     m_settings->setValue(SettingsKeys::PasswordHash, hash);
 }
 
+namespace {
+QLatin1StringView startWindowKey(Settings::StartWindow window)
+{
+    switch (window) {
+    case Settings::StartWindow::Input:
+        return SettingsKeys::OpenInputWindow;
+    case Settings::StartWindow::List:
+        return SettingsKeys::OpenListWindow;
+    case Settings::StartWindow::Graph:
+        return SettingsKeys::OpenGraphWindow;
+    case Settings::StartWindow::Balance:
+        break;
+    }
+    return SettingsKeys::OpenBalanceWindow;
+}
+} // namespace
+
+bool Settings::openWindow(StartWindow window) const
+{
+    return m_settings->value(startWindowKey(window), window == StartWindow::Input).toBool();
+}
+
+void Settings::setOpenWindow(StartWindow window, bool open)
+{
+    // Stored as the number of a check box's state, as the key always was.
+    m_settings->setValue(startWindowKey(window), int(open));
+}
+
 int Settings::returnInputDefault() const
 {
     return m_settings->value(SettingsKeys::ReturnInputDefault, 0).toInt();

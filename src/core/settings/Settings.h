@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QByteArray>
-#include <QList>
 #include <QLatin1StringView>
+#include <QList>
 #include <QString>
 #include <QVariantList>
 #include <QVariantMap>
@@ -41,6 +41,12 @@ public:
     // when there is none.
     QString passwordHash() const;
     void setPasswordHash(const QString &hash);
+
+    // The windows that may open at start, in the order of their keys.
+    enum class StartWindow { Input, List, Graph, Balance };
+    // Whether the window opens at start; by default only the input window.
+    bool openWindow(StartWindow window) const;
+    void setOpenWindow(StartWindow window, bool open);
 
     // Which button Return presses in the input window: 0 or 1 its OK button,
     // 2 its input button, anything larger none.

@@ -84,6 +84,11 @@ QVariantList preferenceDataListForKey(const QString &folder, QLatin1StringView k
 bool setPreferenceDataListForKey(const QString &folder, const QVariantList &list,
                                  QLatin1StringView key)
 {
+    return setPreferenceDataLists(folder, {{key, list}});
+}
+
+bool setPreferenceDataLists(const QString &folder, const QVariantMap &lists)
+{
     const QString path = dataDictionaryPath(folder);
     auto dictionary = readDictionary(path);
     if (!dictionary) {
@@ -95,7 +100,8 @@ bool setPreferenceDataListForKey(const QString &folder, const QVariantList &list
             return false;
         dictionary = QVariantMap();
     }
-    dictionary->insert(key, list);
+    for (auto it = lists.cbegin(); it != lists.cend(); ++it)
+        dictionary->insert(it.key(), it.value());
     return writeDictionary(path, *dictionary);
 }
 

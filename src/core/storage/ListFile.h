@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QVariantList>
+#include <QVariantMap>
 
 // The list file "Data.penwick" of a data folder: a property-list dictionary
 // of the category names ("CategoryList", the income category last), one
@@ -29,5 +30,7 @@ QVariantList preferenceDataListForKey(const QString &folder, QLatin1StringView k
 // "Data.penwick.unreadable" first.
 bool setPreferenceDataListForKey(const QString &folder, const QVariantList &list,
                                  QLatin1StringView key);
+// The same for several lists at once, by key, in one write.
+bool setPreferenceDataLists(const QString &folder, const QVariantMap &lists);
 
 } // namespace ListFile

@@ -1,0 +1,232 @@
+#include "ledger/ConversionJournal.h"
+
+#include "storage/ListFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Makes the folder's entries (new names, renames, removals) durable.
+bool syncFolder(const QString &folder, QString *error)
+{
+    const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
+    const bool synced = fd >= 0 && ::fsync(fd) == 0;
+    const int cause = errno;
+    if (fd >= 0)
+        ::close(fd);
+    if (!synced && error)
+        *error = ConversionJournal::tr("The folder %1 could not be written to disk: %2")
+                     .arg(folder, QString::fromLocal8Bit(std::strerror(cause)));
+    return synced;
+}
+
+bool saveFile(const QString &path, const QByteArray &content, QString *error)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+        return true;
+    if (error)
+        *error = ConversionJournal::tr("%1 could not be written: %2").arg(path, file.errorString());
+    return false;
+}
+
+QJsonArray mapToJson(const ConversionMap &map)
+{
+    QJsonArray pairs;
+    for (auto it = map.cbegin(); it != map.cend(); ++it)
+        pairs.append(QJsonArray{it.key(), it.value()});
+    return pairs;
+}
+
+ConversionMap mapFromJson(const QJsonArray &pairs)
+{
+    ConversionMap map;
+    for (const QJsonValue &pair : pairs)
+        map.insert(pair[0].toInt(), pair[1].toInt());
+    return map;
+}
+
+// The lists hold names (strings) and archived colours (bytes).
+QJsonObject listsToJson(const QVariantMap &lists)
+{
+    QJsonObject object;
+    for (auto it = lists.cbegin(); it != lists.cend(); ++it) {
+        QJsonArray values;
+        const QVariantList list = it.value().toList();
+        for (const QVariant &value : list) {
+            if (value.typeId() == QMetaType::QByteArray)
+                values.append(QJsonObject{{u"data"_s, QString::fromLatin1(value.toByteArray().toBase64())}});
+            else
+                values.append(value.toString());
+        }
+        object.insert(it.key(), values);
+    }
+    return object;
+}
+
+QVariantMap listsFromJson(const QJsonObject &object)
+{
+    QVariantMap lists;
+    for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
+        QVariantList list;
+        const QJsonArray values = it.value().toArray();
+        for (const QJsonValue &value : values) {
+            if (value.isObject())
+                list.append(QByteArray::fromBase64(value[u"data"_s].toString().toLatin1()));
+            else
+                list.append(value.toString());
+        }
+        lists.insert(it.key(), list);
+    }
+    return lists;
+}
+
+} // namespace
+
+ConversionJournal::ConversionJournal(const QString &folder)
+    : m_folder(folder)
+{
+}
+
+QString ConversionJournal::journalPath(const QString &folder)
+{
+    return QDir(folder).filePath(u".penwick-conversion"_s);
+}
+
+QString ConversionJournal::sideFilePath(const QString &monthFile)
+{
+    return monthFile + u".converting"_s;
+}
+
+QString ConversionJournal::pathOf(const QString &file) const
+{
+    return QDir(m_folder).filePath(file);
+}
+
+bool ConversionJournal::read(QString *error)
+{
+    m_phase = Phase::None;
+    m_conversion = {};
+    m_files.clear();
+    QFile file(journalPath(m_folder));
+    if (!file.exists())
+        return true;
+    QJsonParseError parseError;
+    const QJsonDocument document = file.open(QIODevice::ReadOnly)
+        ? QJsonDocument::fromJson(file.readAll(), &parseError)
+        : QJsonDocument();
+    const QString phase = document[u"phase"_s].toString();
+    if (phase != "prepare"_L1 && phase != "commit"_L1) {
+        if (error)
+            *error = ConversionJournal::tr("The record of an unfinished change of the lists, %1, cannot be read.")
+                         .arg(file.fileName());
+        return false;
+    }
+    m_phase = phase == "commit"_L1 ? Phase::Commit : Phase::Prepare;
+    m_conversion.categoryMap = mapFromJson(document[u"category"_s].toArray());
+    m_conversion.paywayMap = mapFromJson(document[u"payway"_s].toArray());
+    m_conversion.lists = listsFromJson(document[u"lists"_s].toObject());
+    const QJsonArray files = document[u"files"_s].toArray();
+    for (const QJsonValue &name : files)
+        m_files.append(name.toString());
+    return true;
+}
+
+bool ConversionJournal::writeJournal(Phase phase, QString *error)
+{
+    QJsonArray files;
+    for (const QString &name : std::as_const(m_files))
+        files.append(name);
+    const QJsonObject journal{
+        {u"phase"_s, phase == Phase::Commit ? u"commit"_s : u"prepare"_s},
+        {u"category"_s, mapToJson(m_conversion.categoryMap)},
+        {u"payway"_s, mapToJson(m_conversion.paywayMap)},
+        {u"lists"_s, listsToJson(m_conversion.lists)},
+        {u"files"_s, files},
+    };
+    if (!saveFile(journalPath(m_folder), QJsonDocument(journal).toJson(), error)
+        || !syncFolder(m_folder, error))
+        return false;
+    m_phase = phase;
+    return true;
+}
+
+bool ConversionJournal::begin(const ListConversion &conversion, const QStringList &files,
+                              QString *error)
+{
+    m_conversion = conversion;
+    m_files = files;
+    return writeJournal(Phase::Prepare, error);
+}
+
+bool ConversionJournal::writeMonth(const QString &file, const QByteArray &content, QString *error)
+{
+    return saveFile(sideFilePath(pathOf(file)), content, error);
+}
+
+bool ConversionJournal::commit(QString *error)
+{
+    // The side files' names must be on the disk before the journal says they
+    // are all there.
+    return syncFolder(m_folder, error) && writeJournal(Phase::Commit, error);
+}
+
+bool ConversionJournal::finish(const std::function<void(int)> &replaced, QString *error)
+{
+    int done = 0;
+    for (const QString &name : std::as_const(m_files)) {
+        const QString target = pathOf(name);
+        const QString side = sideFilePath(target);
+        // A side file that is gone has replaced its month already.
+        if (QFile::exists(side)
+            && std::rename(QFile::encodeName(side).constData(), QFile::encodeName(target).constData())
+                != 0) {
+            if (error)
+                *error = ConversionJournal::tr("%1 could not be replaced: %2")
+                             .arg(target, QString::fromLocal8Bit(std::strerror(errno)));
+            return false;
+        }
+        if (replaced)
+            replaced(++done);
+    }
+    if (!syncFolder(m_folder, error))
+        return false;
+    if (!m_conversion.lists.isEmpty()
+        && !ListFile::setPreferenceDataLists(m_folder, m_conversion.lists)) {
+        if (error)
+            *error = ConversionJournal::tr("The list file %1 could not be written.")
+                         .arg(ListFile::dictionaryPathString(m_folder));
+        return false;
+    }
+    QFile::remove(journalPath(m_folder));
+    syncFolder(m_folder, nullptr); // a journal that comes back only repeats the renames
+    m_phase = Phase::None;
+    return true;
+}
+
+void ConversionJournal::abandon()
+{
+    // The side files, and the temporary file of one whose writing was cut
+    // short.
+    const QDir folder(m_folder);
+    const QStringList sideFiles = folder.entryList({u"*.converting"_s, u"*.converting.*"_s},
+                                                   QDir::Files | QDir::Hidden);
+    for (const QString &name : sideFiles)
+        QFile::remove(folder.filePath(name));
+    QFile::remove(journalPath(m_folder));
+    syncFolder(m_folder, nullptr);
+    m_phase = Phase::None;
+}

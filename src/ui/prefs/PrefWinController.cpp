@@ -1,0 +1,498 @@
+#include "prefs/PrefWinController.h"
+
+#include "ledger/KController.h"
+#include "model/Notifications.h"
+#include "password/SetPassPanelController.h"
+#include "prefs/ListEditorModel.h"
+#include "prefs/MergeItemDialog.h"
+#include "security/PasswordLock.h"
+#include "settings/Settings.h"
+#include "settings/SettingsKeys.h"
+#include "storage/ColorArchive.h"
+#include "storage/ListFile.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace {
+
+// What Return presses in the input window, as the setting stores it.
+enum ReturnInput { ReturnPressesOK = 0, ReturnPressesInput = 2, ReturnPressesNothing = 3 };
+
+// The text every category list ends with: income, in the current language.
+QString incomeName()
+{
+    return QCoreApplication::translate("Localizable", "Income");
+}
+
+QStringList names(const QVariantList &values)
+{
+    QStringList list;
+    for (const QVariant &value : values)
+        list.append(value.toString());
+    return list;
+}
+
+int selectedRow(const QTableView *view)
+{
+    const QModelIndexList rows = view->selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.constFirst().row();
+}
+
+} // namespace
+
+PrefWinController::PrefWinController(KController *controller, QWidget *parent)
+    : QDialog(parent)
+    , m_controller(controller)
+    , m_welcome(new QLabel(this))
+    , m_tabs(new QTabWidget(this))
+    , m_categoryModel(new ListEditorModel(ListEditorModel::Kind::Categories, this))
+    , m_paywayModel(new ListEditorModel(ListEditorModel::Kind::Payways, this))
+{
+    setObjectName(QStringLiteral("PrefWindow"));
+    setWindowTitle(tr("Preferences"));
+
+    m_welcome->setObjectName(QStringLiteral("welcome"));
+    m_welcome->setWordWrap(true);
+    m_welcome->setText(tr("<b>Welcome to Penwick.</b> Look through the categories and payways "
+                          "you will book entries under, and choose where your account book is "
+                          "kept. You can change all of this later in the preferences."));
+    m_welcome->hide();
+
+    m_tabs->setObjectName(QStringLiteral("tableTab"));
+    m_tabs->addTab(createListTab(m_categoryModel, &m_categoryTable,
+                                 tr("Drag a category to change the order. Income always comes "
+                                    "last and is not edited here.")),
+                   tr("&Categories"));
+    QWidget *payways = createListTab(m_paywayModel, &m_paywayTable,
+                                     tr("Drag a payway to change the order."));
+    payways->setObjectName(QStringLiteral("Payway"));
+    m_tabs->addTab(payways, tr("&Payways"));
+    m_tabs->addTab(createGeneralTab(), tr("&General"));
+
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &PrefWinController::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_welcome);
+    layout->addWidget(m_tabs);
+    layout->addWidget(buttons);
+
+    connect(m_categoryModel, &ListEditorModel::nameRefused, this, &PrefWinController::beep);
+    connect(m_paywayModel, &ListEditorModel::nameRefused, this, &PrefWinController::beep);
+
+    readListFromDefault();
+    readSettings();
+    resize(480, 460);
+    restoreGeometry(Settings().savedLayout(SettingsKeys::PreferenceWindow));
+}
+
+PrefWinController::~PrefWinController() = default;
+
+QWidget *PrefWinController::createListTab(ListEditorModel *model, QTableView **view,
+                                          const QString &hint)
+{
+    auto *tab = new QWidget(m_tabs);
+    auto *table = new QTableView(tab);
+    *view = table;
+    const bool categories = model == m_categoryModel;
+    table->setObjectName(categories ? QStringLiteral("categoryTable")
+                                    : QStringLiteral("paywayTable"));
+    table->setModel(model);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setDragDropMode(QAbstractItemView::InternalMove);
+    table->setDragDropOverwriteMode(false);
+    table->setDefaultDropAction(Qt::MoveAction);
+    table->setDropIndicatorShown(true);
+    table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
+                           | QAbstractItemView::SelectedClicked);
+    table->setShowGrid(false);
+    table->setAlternatingRowColors(true);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 8);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setSectionResizeMode(ListEditorModel::NameColumn,
+                                                    QHeaderView::Stretch);
+    if (categories) {
+        table->horizontalHeader()->setSectionResizeMode(ListEditorModel::ColorColumn,
+                                                        QHeaderView::ResizeToContents);
+        connect(table, &QTableView::doubleClicked, this, [this](const QModelIndex &index) {
+            if (index.column() == ListEditorModel::ColorColumn)
+                chooseColor(index.row());
+        });
+    }
+
+    auto *add = new QPushButton(tr("&Add"), tab);
+    auto *remove = new QPushButton(tr("&Delete…"), tab);
+    add->setObjectName(QStringLiteral("addItem"));
+    remove->setObjectName(QStringLiteral("deleteItems"));
+    connect(add, &QPushButton::clicked, this, [this, model, table] { addItem(model, table); });
+    connect(remove, &QPushButton::clicked, this,
+            [this, model, table] { deleteItem(model, table); });
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(add);
+    buttons->addWidget(remove);
+    QPushButton *color = nullptr;
+    if (categories) {
+        color = new QPushButton(tr("C&olour…"), tab);
+        color->setObjectName(QStringLiteral("changeColor"));
+        connect(color, &QPushButton::clicked, this,
+                [this, table] { chooseColor(selectedRow(table)); });
+        buttons->addWidget(color);
+    }
+    buttons->addStretch();
+
+    // A list always keeps one item: there must be somewhere for entries to go.
+    const auto updateButtons = [model, table, remove, color] {
+        const bool selected = selectedRow(table) >= 0;
+        remove->setEnabled(selected && model->rowCount() > 1);
+        if (color)
+            color->setEnabled(selected);
+    };
+    connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, tab, updateButtons);
+    connect(model, &QAbstractItemModel::modelReset, tab, updateButtons);
+    connect(model, &QAbstractItemModel::rowsInserted, tab, updateButtons);
+    connect(model, &QAbstractItemModel::rowsRemoved, tab, updateButtons);
+    updateButtons();
+
+    auto *note = new QLabel(hint, tab);
+    note->setWordWrap(true);
+    note->setForegroundRole(QPalette::PlaceholderText);
+
+    auto *layout = new QVBoxLayout(tab);
+    layout->addWidget(table);
+    layout->addLayout(buttons);
+    layout->addWidget(note);
+    return tab;
+}
+
+QWidget *PrefWinController::createGeneralTab()
+{
+    auto *tab = new QWidget(m_tabs);
+    auto *form = new QFormLayout(tab);
+
+    m_dataPath = new QLineEdit(tab);
+    m_dataPath->setObjectName(QStringLiteral("dataPathTF"));
+    m_dataPath->setReadOnly(true);
+    auto *choose = new QPushButton(tr("C&hoose…"), tab);
+    choose->setObjectName(QStringLiteral("selectFolder"));
+    connect(choose, &QPushButton::clicked, this, &PrefWinController::selectFolder);
+    auto *folderRow = new QHBoxLayout;
+    folderRow->addWidget(m_dataPath, 1);
+    folderRow->addWidget(choose);
+    form->addRow(tr("Data folder:"), folderRow);
+
+    const QString windows[4] = {tr("&Input window"), tr("&List window"), tr("G&raph window"),
+                                tr("&Balance window")};
+    auto *windowColumn = new QVBoxLayout;
+    for (int i = 0; i < 4; ++i) {
+        m_openWindow[i] = new QCheckBox(windows[i], tab);
+        m_openWindow[i]->setObjectName(QStringLiteral("openWindow%1").arg(i));
+        windowColumn->addWidget(m_openWindow[i]);
+    }
+    form->addRow(tr("Open at start:"), windowColumn);
+
+    m_setLastDate = new QCheckBox(tr("&Close each month on day"), tab);
+    m_setLastDate->setObjectName(QStringLiteral("setLastDateCB"));
+    m_lastDate = new QSpinBox(tab);
+    m_lastDate->setObjectName(QStringLiteral("lastDateTF"));
+    m_lastDate->setRange(1, 31);
+    m_lastDate->setToolTip(tr("Entries after this day count towards the next month."));
+    connect(m_setLastDate, &QCheckBox::toggled, m_lastDate, &QSpinBox::setEnabled);
+    auto *closingRow = new QHBoxLayout;
+    closingRow->addWidget(m_setLastDate);
+    closingRow->addWidget(m_lastDate);
+    closingRow->addStretch();
+    form->addRow(tr("Closing day:"), closingRow);
+
+    m_returnInput = new QComboBox(tab);
+    m_returnInput->setObjectName(QStringLiteral("returnInputPp"));
+    m_returnInput->addItem(tr("Presses OK"), int(ReturnPressesOK));
+    m_returnInput->addItem(tr("Presses Input"), int(ReturnPressesInput));
+    m_returnInput->addItem(tr("Does nothing"), int(ReturnPressesNothing));
+    form->addRow(tr("&Return key in the input window:"), m_returnInput);
+
+    auto *password = new QPushButton(tr("Change &Password…"), tab);
+    password->setObjectName(QStringLiteral("setPassword"));
+    connect(password, &QPushButton::clicked, this, &PrefWinController::setPassword);
+    m_passwordState = new QLabel(tab);
+    m_passwordState->setObjectName(QStringLiteral("passwordState"));
+    auto *passwordRow = new QHBoxLayout;
+    passwordRow->addWidget(password);
+    passwordRow->addWidget(m_passwordState, 1);
+    form->addRow(tr("Password:"), passwordRow);
+    return tab;
+}
+
+void PrefWinController::setFirstSetting(bool firstSetting)
+{
+    m_firstSetting = firstSetting;
+    m_welcome->setVisible(firstSetting);
+}
+
+void PrefWinController::readListFromDefault()
+{
+    const QString folder = m_controller->dataFolderPath();
+    showDataFolder(folder);
+    // The income category, last, is not edited here: it is written back
+    // under its name in the current language on OK.
+    QStringList categories = names(ListFile::preferenceDataListForKey(folder, ListFile::CategoryList));
+    QList<QByteArray> colors;
+    const QVariantList archived = ListFile::preferenceDataListForKey(folder, ListFile::ColorList);
+    for (const QVariant &color : archived)
+        colors.append(color.toByteArray());
+    QString income = incomeName();
+    if (!categories.isEmpty())
+        income = categories.takeLast();
+    ListEditor categoryEditor(categories, colors.mid(0, categories.size()));
+    categoryEditor.setReservedNames({income, incomeName()});
+    m_categoryModel->setEditor(categoryEditor);
+    m_paywayModel->setEditor(
+        ListEditor(names(ListFile::preferenceDataListForKey(folder, ListFile::PaywayList))));
+}
+
+void PrefWinController::readSettings()
+{
+    const Settings settings;
+    const Settings::StartWindow windows[4] = {Settings::StartWindow::Input,
+                                              Settings::StartWindow::List,
+                                              Settings::StartWindow::Graph,
+                                              Settings::StartWindow::Balance};
+    for (int i = 0; i < 4; ++i)
+        m_openWindow[i]->setChecked(settings.openWindow(windows[i]));
+    const int returnInput = settings.returnInputDefault();
+    // 0 and 1 both mean the OK button.
+    const int item = m_returnInput->findData(returnInput == 1 ? int(ReturnPressesOK) : returnInput);
+    m_returnInput->setCurrentIndex(qMax(0, item));
+    m_setLastDate->setChecked(settings.changeMonthLastDate());
+    m_lastDate->setValue(settings.monthLastDate());
+    m_lastDate->setEnabled(m_setLastDate->isChecked());
+    m_newPasswordHash.reset();
+    m_passwordState->setText(PasswordLock::passwordFromDefault().isEmpty()
+                                 ? tr("No password is asked for at start.")
+                                 : tr("A password is asked for at start."));
+}
+
+void PrefWinController::showDataFolder(const QString &path)
+{
+    m_dataPath->setText(QDir::toNativeSeparators(path));
+    m_dataPath->setToolTip(QDir::toNativeSeparators(path));
+    m_dataPath->setCursorPosition(0);
+}
+
+void PrefWinController::beep()
+{
+    QApplication::beep();
+}
+
+void PrefWinController::addItem(ListEditorModel *model, QTableView *view)
+{
+    const int row = model->addItem(tr("Untitled"), Qt::black);
+    const QModelIndex name = model->index(row, ListEditorModel::NameColumn);
+    view->setCurrentIndex(name);
+    view->edit(name);
+}
+
+void PrefWinController::deleteItem(ListEditorModel *model, QTableView *view)
+{
+    const int row = selectedRow(view);
+    if (row < 0 || model->rowCount() < 2) {
+        beep();
+        return;
+    }
+    auto *dialog = new MergeItemDialog(model->editor().names(), row, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [model, view, dialog] {
+        const int target = dialog->targetRow();
+        if (model->mergeItem(dialog->row(), target))
+            view->selectRow(target < dialog->row() ? target : target - 1);
+    });
+    dialog->open();
+}
+
+void PrefWinController::chooseColor(int row)
+{
+    if (row < 0 || row >= m_categoryModel->rowCount())
+        return;
+    auto *dialog = new QColorDialog(m_categoryModel->color(row), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(tr("Colour of “%1”").arg(m_categoryModel->editor().name(row)));
+    connect(dialog, &QColorDialog::colorSelected, this,
+            [this, row](const QColor &color) { m_categoryModel->setColor(row, color); });
+    dialog->open();
+}
+
+void PrefWinController::selectFolder()
+{
+    auto *dialog = new QFileDialog(this, tr("Choose the Data Folder"), m_controller->dataFolderPath());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    dialog->setAcceptMode(QFileDialog::AcceptOpen);
+    dialog->setLabelText(QFileDialog::Accept, tr("Choose"));
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this](const QString &path) { changeDataFolder(path); });
+    dialog->open();
+}
+
+bool PrefWinController::changeDataFolder(const QString &path)
+{
+    const QString folder = QDir::cleanPath(path);
+    if (folder.isEmpty() || folder == QDir::cleanPath(m_controller->dataFolderPath()))
+        return false;
+    const QFileInfo info(folder);
+    if (!info.isDir() || !info.isWritable()) {
+        showProblem(tr("Penwick cannot keep its data in this folder."),
+                    tr("The folder %1 cannot be written to. Choose a folder you may change.")
+                        .arg(QDir::toNativeSeparators(folder)));
+        return false;
+    }
+    // Everything loaded goes to the old folder before the new one is used.
+    if (!m_controller->releaseAllDataWithSave(true)) {
+        showProblem(tr("The data folder was not changed."),
+                    tr("Some months could not be saved in the current folder. They stay "
+                       "loaded so that nothing is lost; free some disk space or check the "
+                       "folder's permissions, then try again."));
+        return false;
+    }
+    Settings settings;
+    settings.setDataPath(folder);
+    settings.sync();
+    emit dataFolderChanged(folder);
+    QString error;
+    if (!m_controller->finishInterruptedConversion(&error))
+        showProblem(tr("The new data folder needs attention."), error);
+    readListFromDefault();
+    emit Notifications::instance()->listPreferenceHasUpDated();
+    return true;
+}
+
+void PrefWinController::setPassword()
+{
+    auto *panel = new SetPassPanelController(this);
+    panel->setMode(SetPassPanelController::Mode::HandOver);
+    if (m_newPasswordHash)
+        panel->setPassword(*m_newPasswordHash);
+    connect(panel, &SetPassPanelController::passwordChosen, this, [this](const QString &hash) {
+        m_newPasswordHash = hash;
+        m_passwordState->setText(hash.isEmpty()
+                                     ? tr("The password is removed when you press OK.")
+                                     : tr("The new password is set when you press OK."));
+    });
+    panel->open();
+}
+
+bool PrefWinController::convertAndWriteLists()
+{
+    const ListEditor &categories = m_categoryModel->editor();
+    const ListEditor &payways = m_paywayModel->editor();
+    ListConversion conversion;
+    conversion.categoryMap = categories.conversionMapWithIncomeLast();
+    conversion.paywayMap = payways.conversionMap();
+    QVariantList categoryList;
+    for (const QString &name : categories.names())
+        categoryList.append(name);
+    categoryList.append(incomeName());
+    QVariantList colorList;
+    for (const QByteArray &color : categories.colors())
+        colorList.append(color);
+    colorList.append(ColorArchive::encodeWhite(0.5f)); // income is always gray
+    QVariantList paywayList;
+    for (const QString &name : payways.names())
+        paywayList.append(name);
+    conversion.lists = {{ListFile::CategoryList, categoryList},
+                        {ListFile::ColorList, colorList},
+                        {ListFile::PaywayList, paywayList}};
+
+    // Application-modal: no entry may be booked while the folder changes.
+    QProgressDialog progress(tr("Renumbering the stored entries…"), QString(), 0, 0, this);
+    progress.setWindowTitle(tr("Preferences"));
+    progress.setWindowModality(Qt::ApplicationModal);
+    progress.setMinimumDuration(400);
+    progress.setAutoClose(false);
+    const QMetaObject::Connection step = connect(
+        m_controller, &KController::conversionProgress, &progress, [&progress](int done, int total) {
+            progress.setMaximum(total);
+            progress.setValue(done);
+        });
+    QString error;
+    const bool converted = m_controller->convertStoredData(conversion, &error);
+    disconnect(step);
+    progress.reset();
+    if (!converted)
+        showProblem(tr("The lists were not changed."), error);
+    return converted;
+}
+
+void PrefWinController::writeSettings()
+{
+    Settings settings;
+    const Settings::StartWindow windows[4] = {Settings::StartWindow::Input,
+                                              Settings::StartWindow::List,
+                                              Settings::StartWindow::Graph,
+                                              Settings::StartWindow::Balance};
+    for (int i = 0; i < 4; ++i)
+        settings.setOpenWindow(windows[i], m_openWindow[i]->isChecked());
+    settings.setReturnInputDefault(m_returnInput->currentData().toInt());
+    const bool closingDayWas = settings.changeMonthLastDate();
+    const int dayWas = settings.monthLastDate();
+    settings.setChangeMonthLastDate(m_setLastDate->isChecked());
+    settings.setMonthLastDate(m_lastDate->value());
+    if (m_newPasswordHash)
+        settings.setPasswordHash(*m_newPasswordHash);
+    settings.sync();
+    if (closingDayWas != m_setLastDate->isChecked() || dayWas != m_lastDate->value())
+        emit Notifications::instance()->lastDateHasChanged();
+}
+
+void PrefWinController::accept()
+{
+    if (!convertAndWriteLists())
+        return; // the window stays open with the edits, so the user may try again
+    writeSettings();
+    emit Notifications::instance()->listPreferenceHasUpDated();
+    QDialog::accept();
+}
+
+void PrefWinController::done(int result)
+{
+    Settings().setSavedLayout(SettingsKeys::PreferenceWindow, saveGeometry());
+    QDialog::done(result);
+    // Every opening starts from what is stored.
+    readListFromDefault();
+    readSettings();
+    if (m_firstSetting) {
+        setFirstSetting(false);
+        emit showInputWindowRequested();
+    }
+}
+
+void PrefWinController::showProblem(const QString &text, const QString &details)
+{
+    auto *box = new QMessageBox(QMessageBox::Warning, windowTitle(), text, QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setInformativeText(details);
+    box->open();
+}

@@ -1,0 +1,356 @@
+#include "TestDataFolder.h"
+#include "TestHelpers.h"
+
+#include "ledger/DataFolder.h"
+#include "ledger/KController.h"
+#include "model/MonthDataList.h"
+#include "model/Notifications.h"
+#include "password/SetPassPanelController.h"
+#include "prefs/ListEditorModel.h"
+#include "prefs/MergeItemDialog.h"
+#include "prefs/PrefWinController.h"
+#include "settings/Settings.h"
+#include "storage/ColorArchive.h"
+#include "storage/ListFile.h"
+#include "storage/MonthFile.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTableView>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QStringList kCategories{u"Food"_s, u"Rent"_s, u"Fun"_s, u"Income"_s};
+const QStringList kPayways{u"Cash"_s, u"Card"_s};
+
+template<typename T>
+T *child(QObject *parent, const QString &name = {})
+{
+    auto *found = parent->findChild<T *>(name);
+    if (!found)
+        qFatal("no %s named %s", T::staticMetaObject.className(), qPrintable(name));
+    return found;
+}
+
+QVariantList variants(const QStringList &names)
+{
+    return QVariant(names).toList();
+}
+
+QStringList storedNames(const QString &folder, QLatin1StringView key)
+{
+    return QVariant(ListFile::preferenceDataListForKey(folder, key)).toStringList();
+}
+
+// The categories of a month file's entries, in the order of their details.
+QList<int> storedCategories(const QString &folder, int year, int month)
+{
+    auto list = MonthFile::decode(readBytes(DataFolder::filePathForYear(folder, year, month)), nullptr);
+    if (!list)
+        return {};
+    PaymentArray records = list->dataListArray();
+    std::sort(records.begin(), records.end(),
+              [](const PaymentDataPtr &a, const PaymentDataPtr &b) { return a->details() < b->details(); });
+    QList<int> categories;
+    for (const PaymentDataPtr &r : records)
+        categories.append(r->category());
+    return categories;
+}
+
+} // namespace
+
+class TestPrefWinController : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void movesByDraggingRenumberTheEntries();
+    void dropsOntoARowOrFromAnotherListAreRefused();
+    void deletingMergesIntoTheChosenItem();
+    void duplicateNamesAreRefused();
+    void cancelDropsEveryEdit();
+    void okWritesTheSettingsAndAnnouncesThem();
+    void aRefusedConversionKeepsTheWindowOpen();
+    void changingTheDataFolderSavesFirst();
+    void closingTheFirstSettingAsksForTheInputWindow();
+    void aChosenPasswordIsStoredOnlyOnOk();
+
+private:
+    ListEditorModel *categories() const;
+    QTableView *categoryTable() const;
+    void pressOk();
+
+    TestDataFolder m_home;
+    QString m_folder;
+    std::unique_ptr<KController> m_controller;
+    std::unique_ptr<PrefWinController> m_window;
+};
+
+void TestPrefWinController::init()
+{
+    m_folder = m_home.freshDataFolder();
+    QVariantList colors;
+    for (const QByteArray &color : ColorArchive::initialColors(int(kCategories.size())))
+        colors.append(color);
+    QVERIFY(ListFile::setPreferenceDataLists(m_folder, {{ListFile::CategoryList, variants(kCategories)},
+                                                       {ListFile::ColorList, colors},
+                                                       {ListFile::PaywayList, variants(kPayways)}}));
+    // One entry of each category, named after it; the payway is the same.
+    MonthDataList may(2006, 5);
+    PaymentArray records;
+    for (int c = 0; c < kCategories.size(); ++c)
+        records.append(std::make_shared<PaymentData>(2006, 5, c + 1, c, kCategories.at(c), 100, 1));
+    may.setDataListArray(records);
+    writeBytes(DataFolder::filePathForYear(m_folder, 2006, 5), MonthFile::encode(may));
+
+    m_controller = std::make_unique<KController>();
+    m_controller->readListPreference();
+    m_window = std::make_unique<PrefWinController>(m_controller.get());
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void TestPrefWinController::cleanup()
+{
+    m_window.reset();
+    m_controller.reset();
+}
+
+ListEditorModel *TestPrefWinController::categories() const
+{
+    return qobject_cast<ListEditorModel *>(categoryTable()->model());
+}
+
+QTableView *TestPrefWinController::categoryTable() const
+{
+    return child<QTableView>(m_window.get(), u"categoryTable"_s);
+}
+
+void TestPrefWinController::pressOk()
+{
+    QTest::mouseClick(child<QDialogButtonBox>(m_window.get())->button(QDialogButtonBox::Ok),
+                      Qt::LeftButton);
+}
+
+void TestPrefWinController::movesByDraggingRenumberTheEntries()
+{
+    ListEditorModel *model = categories();
+    // Rent dragged above Food, as the table view hands it to its model.
+    std::unique_ptr<QMimeData> drag(model->mimeData({model->index(1, 0)}));
+    QVERIFY(model->canDropMimeData(drag.get(), Qt::MoveAction, 0, 0, {}));
+    QVERIFY(model->dropMimeData(drag.get(), Qt::MoveAction, 0, 0, {}));
+    // Food dragged below the last row.
+    drag.reset(model->mimeData({model->index(1, 0)}));
+    QVERIFY(model->dropMimeData(drag.get(), Qt::MoveAction, -1, -1, {}));
+    QCOMPARE(model->editor().names(), (QStringList{u"Rent"_s, u"Fun"_s, u"Food"_s}));
+    QCOMPARE(model->color(0), ListEditorModel::colorFromArchive(ColorArchive::initialColors(4)[1]));
+
+    QSignalSpy announced(Notifications::instance(), &Notifications::listPreferenceHasUpDated);
+    pressOk();
+    QVERIFY(!m_window->isVisible());
+    QCOMPARE(announced.size(), 1);
+    QCOMPARE(storedNames(m_folder, ListFile::CategoryList),
+             (QStringList{u"Rent"_s, u"Fun"_s, u"Food"_s, u"Income"_s}));
+    // By details: Food, Fun, Income, Rent.
+    QCOMPARE(storedCategories(m_folder, 2006, 5), (QList<int>{2, 1, 3, 0}));
+    QCOMPARE(m_controller->categoryList().constFirst(), u"Rent"_s);
+}
+
+void TestPrefWinController::dropsOntoARowOrFromAnotherListAreRefused()
+{
+    ListEditorModel *model = categories();
+    std::unique_ptr<QMimeData> drag(model->mimeData({model->index(0, 0)}));
+    QVERIFY(!model->canDropMimeData(drag.get(), Qt::MoveAction, -1, -1, model->index(2, 0)));
+    QVERIFY(!model->dropMimeData(drag.get(), Qt::MoveAction, -1, -1, model->index(2, 0)));
+    auto *payways = qobject_cast<ListEditorModel *>(
+        child<QTableView>(m_window.get(), u"paywayTable"_s)->model());
+    QVERIFY(!payways->dropMimeData(drag.get(), Qt::MoveAction, 0, 0, {}));
+    QCOMPARE(model->editor().names(), kCategories.mid(0, 3));
+    QCOMPARE(payways->editor().names(), kPayways);
+}
+
+void TestPrefWinController::deletingMergesIntoTheChosenItem()
+{
+    auto *remove = child<QPushButton>(categoryTable()->parentWidget(), u"deleteItems"_s);
+    QVERIFY(!remove->isEnabled());
+    categoryTable()->selectRow(0);
+    QVERIFY(remove->isEnabled());
+    QTest::mouseClick(remove, Qt::LeftButton);
+    auto *dialog = child<MergeItemDialog>(m_window.get());
+    QVERIFY(dialog->isVisible());
+    auto *targets = child<QComboBox>(dialog, u"convertMenuPp"_s);
+    QCOMPARE(targets->count(), 2); // every other item: Rent, Fun
+    targets->setCurrentIndex(1);
+    dialog->accept();
+    QCOMPARE(categories()->editor().names(), (QStringList{u"Rent"_s, u"Fun"_s}));
+
+    pressOk();
+    QCOMPARE(storedNames(m_folder, ListFile::CategoryList),
+             (QStringList{u"Rent"_s, u"Fun"_s, u"Income"_s}));
+    QCOMPARE(ListFile::preferenceDataListForKey(m_folder, ListFile::ColorList).size(), 3);
+    // Food went to Fun, and income moved down with the list.
+    QCOMPARE(storedCategories(m_folder, 2006, 5), (QList<int>{1, 1, 2, 0}));
+    QCOMPARE(m_controller->listForYear(2006, 5)->incomeTotal(), 100.f);
+}
+
+void TestPrefWinController::duplicateNamesAreRefused()
+{
+    ListEditorModel *model = categories();
+    QSignalSpy refused(model, &ListEditorModel::nameRefused);
+    QVERIFY(!model->setData(model->index(0, 0), u"Rent"_s));
+    QVERIFY(!model->setData(model->index(0, 0), u"Income"_s));
+    QVERIFY(!model->setData(model->index(0, 0), u""_s));
+    QCOMPARE(refused.size(), 3);
+    // Leaving the editor with the name as it was is not worth a beep.
+    QVERIFY(!model->setData(model->index(0, 0), u"Food"_s));
+    QCOMPARE(refused.size(), 3);
+    QVERIFY(model->setData(model->index(0, 0), u"Groceries"_s));
+    QCOMPARE(model->editor().names().constFirst(), u"Groceries"_s);
+
+    // Two new items keep their names apart only once renamed.
+    auto *add = child<QPushButton>(categoryTable()->parentWidget(), u"addItem"_s);
+    QTest::mouseClick(add, Qt::LeftButton);
+    QTest::mouseClick(add, Qt::LeftButton);
+    QCOMPARE(model->editor().names().mid(3), (QStringList{u"Untitled"_s, u"Untitled"_s}));
+    QVERIFY(!model->setData(model->index(4, 0), u"Groceries"_s));
+    QCOMPARE(refused.size(), 4);
+}
+
+void TestPrefWinController::cancelDropsEveryEdit()
+{
+    const QByteArray listFile = readBytes(ListFile::dictionaryPathString(m_folder));
+    categories()->setData(categories()->index(0, 0), u"Groceries"_s);
+    categories()->moveItem(2, 0);
+    child<QCheckBox>(m_window.get(), u"openWindow1"_s)->setChecked(true);
+    QSignalSpy announced(Notifications::instance(), &Notifications::listPreferenceHasUpDated);
+    QTest::keyClick(m_window.get(), Qt::Key_Escape);
+    QVERIFY(!m_window->isVisible());
+    QCOMPARE(announced.size(), 0);
+    QCOMPARE(readBytes(ListFile::dictionaryPathString(m_folder)), listFile);
+    QVERIFY(!Settings().openWindow(Settings::StartWindow::List));
+    // The next opening shows what is stored.
+    QCOMPARE(categories()->editor().names(), kCategories.mid(0, 3));
+    QVERIFY(!child<QCheckBox>(m_window.get(), u"openWindow1"_s)->isChecked());
+}
+
+void TestPrefWinController::okWritesTheSettingsAndAnnouncesThem()
+{
+    QSignalSpy lastDate(Notifications::instance(), &Notifications::lastDateHasChanged);
+    child<QCheckBox>(m_window.get(), u"openWindow0"_s)->setChecked(false);
+    child<QCheckBox>(m_window.get(), u"openWindow3"_s)->setChecked(true);
+    auto *closing = child<QCheckBox>(m_window.get(), u"setLastDateCB"_s);
+    auto *day = child<QSpinBox>(m_window.get(), u"lastDateTF"_s);
+    QVERIFY(!day->isEnabled());
+    closing->setChecked(true);
+    QVERIFY(day->isEnabled());
+    day->setValue(25);
+    auto *returnKey = child<QComboBox>(m_window.get(), u"returnInputPp"_s);
+    returnKey->setCurrentIndex(returnKey->findData(2));
+    pressOk();
+
+    Settings settings;
+    QVERIFY(!settings.openWindow(Settings::StartWindow::Input));
+    QVERIFY(settings.openWindow(Settings::StartWindow::Balance));
+    QVERIFY(settings.changeMonthLastDate());
+    QCOMPARE(settings.monthLastDate(), 25);
+    QCOMPARE(settings.returnInputDefault(), 2);
+    QCOMPARE(lastDate.size(), 1);
+    // Income is written last, in the current language and gray, whatever it
+    // was before.
+    QCOMPARE(storedNames(m_folder, ListFile::CategoryList).constLast(), u"Income"_s);
+    QCOMPARE(ListFile::preferenceDataListForKey(m_folder, ListFile::ColorList).constLast().toByteArray(),
+             ColorArchive::encodeWhite(0.5f));
+
+    // Unchanged closing day: nothing to announce.
+    m_window->show();
+    QCOMPARE(child<QSpinBox>(m_window.get(), u"lastDateTF"_s)->value(), 25);
+    pressOk();
+    QCOMPARE(lastDate.size(), 1);
+}
+
+void TestPrefWinController::aRefusedConversionKeepsTheWindowOpen()
+{
+    writeBytes(DataFolder::filePathForYear(m_folder, 2007, 1), "not a month");
+    const QByteArray may = readBytes(DataFolder::filePathForYear(m_folder, 2006, 5));
+    categories()->moveItem(0, 3);
+    pressOk();
+    QVERIFY(m_window->isVisible());
+    auto *box = child<QMessageBox>(m_window.get());
+    QVERIFY(box->isVisible());
+    QVERIFY(box->informativeText().contains(u"1/2007"_s));
+    QCOMPARE(readBytes(DataFolder::filePathForYear(m_folder, 2006, 5)), may);
+    QCOMPARE(storedNames(m_folder, ListFile::CategoryList), kCategories);
+    QCOMPARE(categories()->editor().names(), (QStringList{u"Rent"_s, u"Fun"_s, u"Food"_s}));
+}
+
+void TestPrefWinController::changingTheDataFolderSavesFirst()
+{
+    const auto may = m_controller->listForYear(2006, 5);
+    may->dataListArray().constFirst()->setDetails(u"Changed, not saved yet"_s);
+    const QString other = m_home.freshDataFolder();
+    Settings().setDataPath(m_folder); // the window chooses; the test only made the folder
+
+    QSignalSpy changed(m_window.get(), &PrefWinController::dataFolderChanged);
+    QSignalSpy announced(Notifications::instance(), &Notifications::listPreferenceHasUpDated);
+    QVERIFY(m_window->changeDataFolder(other));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.at(0).at(0).toString(), other);
+    QCOMPARE(announced.size(), 1);
+    QCOMPARE(Settings().dataPath(), other);
+    QCOMPARE(m_controller->dataFolderPath(), other);
+    QCOMPARE(child<QLineEdit>(m_window.get(), u"dataPathTF"_s)->text(), QDir::toNativeSeparators(other));
+    auto saved = MonthFile::decode(readBytes(DataFolder::filePathForYear(m_folder, 2006, 5)), nullptr);
+    QVERIFY(detailsOf(saved->dataListArray()).contains(u"Changed, not saved yet"_s));
+    // The new folder's own lists: the initial ones.
+    QVERIFY(QFile::exists(ListFile::dictionaryPathString(other)));
+    QCOMPARE(categories()->editor().names(),
+             storedNames(other, ListFile::CategoryList).mid(0, categories()->rowCount()));
+
+    // The folder in use again: nothing happens.
+    QVERIFY(!m_window->changeDataFolder(other + u"/"_s));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(announced.size(), 1);
+}
+
+void TestPrefWinController::closingTheFirstSettingAsksForTheInputWindow()
+{
+    QSignalSpy input(m_window.get(), &PrefWinController::showInputWindowRequested);
+    m_window->setFirstSetting(true);
+    QVERIFY(child<QWidget>(m_window.get(), u"welcome"_s)->isVisible());
+    m_window->close();
+    QCOMPARE(input.size(), 1);
+    // Only the first time.
+    m_window->show();
+    QVERIFY(!child<QWidget>(m_window.get(), u"welcome"_s)->isVisible());
+    pressOk();
+    QCOMPARE(input.size(), 1);
+}
+
+void TestPrefWinController::aChosenPasswordIsStoredOnlyOnOk()
+{
+    QTest::mouseClick(child<QPushButton>(m_window.get(), u"setPassword"_s), Qt::LeftButton);
+    auto *panel = child<SetPassPanelController>(m_window.get());
+    child<QLineEdit>(panel, u"newPassTF"_s)->setText(u"abc"_s);
+    child<QLineEdit>(panel, u"newPassTF2"_s)->setText(u"abc"_s);
+    panel->accept();
+    QVERIFY(Settings().passwordHash().isEmpty());
+    pressOk();
+    QCOMPARE(Settings().passwordHash().size(), 13);
+}
+
+QTEST_MAIN(TestPrefWinController)
+#include "tst_prefwincontroller.moc"
