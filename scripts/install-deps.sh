@@ -25,6 +25,8 @@ packages=(
   xauth
   x11-utils
   libqt6svg6
+  dbus-daemon
+  libglib2.0-bin
 )
 
 missing=()

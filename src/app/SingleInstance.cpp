@@ -21,10 +21,8 @@ constexpr char kReceived = 'y';
 SingleInstance::SingleInstance(const QString &dataFolder, QObject *parent)
     : QObject(parent)
     , m_folder(dataFolder)
-    , m_lock(QDir(dataFolder).filePath(QStringLiteral(".penwick.lock")))
+    , m_lock(lockFor(dataFolder))
 {
-    // Held for as long as the program runs; only a dead owner makes it stale.
-    m_lock.setStaleLockTime(0);
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket *socket = m_server.nextPendingConnection()) {
@@ -35,6 +33,28 @@ SingleInstance::SingleInstance(const QString &dataFolder, QObject *parent)
 }
 
 SingleInstance::~SingleInstance() = default;
+
+std::unique_ptr<QLockFile> SingleInstance::lockFor(const QString &dataFolder)
+{
+    auto lock = std::make_unique<QLockFile>(QDir(dataFolder).filePath(QStringLiteral(".penwick.lock")));
+    // Held for as long as the program runs; only a dead owner makes it stale.
+    lock->setStaleLockTime(0);
+    return lock;
+}
+
+bool SingleInstance::moveTo(const QString &dataFolder)
+{
+    auto lock = lockFor(dataFolder);
+    if (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError) {
+        m_errorString = tr("Another Penwick already works on the data folder \"%1\".")
+                            .arg(QDir::toNativeSeparators(dataFolder));
+        return false;
+    }
+    m_server.close();
+    m_lock = std::move(lock);
+    m_folder = dataFolder;
+    return listen();
+}
 
 QString SingleInstance::serverName(const QString &dataFolder)
 {
@@ -53,9 +73,9 @@ SingleInstance::Role SingleInstance::claimOrForward(const QStringList &request)
 {
     const QDeadlineTimer patience(kForwardPatienceMs);
     for (;;) {
-        if (m_lock.tryLock(0))
+        if (m_lock->tryLock(0))
             return listen() ? Role::Primary : Role::Failed;
-        if (m_lock.error() != QLockFile::LockFailedError) {
+        if (m_lock->error() != QLockFile::LockFailedError) {
             // A folder we may not write to (a read-only copy, say) can still
             // be looked at; saving will report its own failures.
             qWarning("No lock file in %s; a second instance would not be noticed.",

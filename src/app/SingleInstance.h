@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QStringList>
 
+#include <memory>
+
 // One running instance per data folder. The first launch holds a lock file in
 // the folder and listens on a local socket named after it; a later launch
 // finds the lock taken, hands its request (the files it was asked to open,
@@ -28,6 +30,9 @@ public:
     // Takes the folder, or hands the request to the instance that holds it.
     Role claimOrForward(const QStringList &request);
     QString errorString() const { return m_errorString; }
+    // The program now works on another folder: the lock and the socket move
+    // there. False when another instance already holds that folder.
+    bool moveTo(const QString &dataFolder);
 
     // The socket name for a folder: the same folder gives the same name,
     // for this user only.
@@ -38,12 +43,13 @@ signals:
     void requestReceived(const QStringList &request);
 
 private:
+    static std::unique_ptr<QLockFile> lockFor(const QString &dataFolder);
     bool listen();
     bool forward(const QStringList &request);
     void readRequest(class QLocalSocket *socket);
 
     QString m_folder;
-    QLockFile m_lock;
+    std::unique_ptr<QLockFile> m_lock;
     QLocalServer m_server;
     QString m_errorString;
 };

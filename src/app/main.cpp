@@ -2,6 +2,7 @@
 // makes sure one instance serves a data folder, and hands over to the
 // application controller.
 
+#include "ScriptService.h"
 #include "SingleInstance.h"
 #include "UnixSignalQuit.h"
 
@@ -11,6 +12,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDBusConnection>
 #include <QFileInfo>
 #include <QIcon>
 #include <QLibraryInfo>
@@ -94,6 +96,18 @@ int main(int argc, char *argv[])
                              controller.openFile(file);
                          controller.activate();
                      });
+
+    QObject::connect(&controller, &KAppController::dataFolderChanged, &instance,
+                     [&instance](const QString &folder) {
+                         if (!instance.moveTo(folder))
+                             qWarning("%s", qPrintable(instance.errorString()));
+                     });
+
+    // Scripts reach the program on the session bus; without one (a bare X
+    // server, say) it works as usual, only not for scripts.
+    ScriptService scripting(&controller, QDBusConnection::sessionBus());
+    if (!scripting.start())
+        qInfo("Scripting is not available: %s", qPrintable(scripting.errorString()));
 
     UnixSignalQuit signalQuit;
     QObject::connect(&signalQuit, &UnixSignalQuit::quitRequested, &app, &QCoreApplication::quit);

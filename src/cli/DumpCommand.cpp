@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 
 #include "model/MonthDataList.h"
+#include "model/NumberValue.h"
 #include "model/PaymentData.h"
 #include "storage/MonthFile.h"
 #include "storage/TypedStreamObject.h"
@@ -15,25 +16,11 @@
 #include <QJsonDocument>
 #include <QStringDecoder>
 
-#include <array>
-#include <charconv>
 #include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// The fewest digits that read back as the same float, in fixed notation so
-// that amounts look as they were typed (1000000, not 1e+06).
-QString shortestText(float value)
-{
-    // At most 48 characters: a sign, "0." and the 45 decimals of the smallest
-    // float; the largest has 39 digits.
-    std::array<char, 64> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                      std::chars_format::fixed);
-    return QString::fromLatin1(buffer.data(), result.ptr - buffer.data());
-}
 
 QJsonValue realToJson(char type, double value)
 {
@@ -45,7 +32,7 @@ QJsonValue realToJson(char type, double value)
     // A float's double carries digits that were never written: 0.1 would show
     // as 0.10000000149011612.
     if (type == 'f')
-        return shortestText(float(value)).toDouble();
+        return shortestDouble(float(value));
     return value;
 }
 

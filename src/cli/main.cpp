@@ -1,3 +1,4 @@
+#include "AppCommands.h"
 #include "CommandLine.h"
 #include "DumpCommand.h"
 
@@ -11,12 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // A command reads the arguments that follow its name itself.
-struct Command
-{
-    QString name;
-    QString summary;
-    int (*run)(const QStringList &arguments);
-};
+using Command = AppCommands::Command;
 
 QString tr(const char *text)
 {
@@ -40,9 +36,8 @@ int main(int argc, char *argv[])
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(u"penwickctl"_s);
 
-    const QList<Command> commands{
-        {DumpCommand::name(), DumpCommand::summary(), &DumpCommand::run},
-    };
+    const QList<Command> commands = AppCommands::commands()
+        + QList<Command>{{DumpCommand::name(), DumpCommand::summary(), &DumpCommand::run}};
 
     QCommandLineParser parser;
     parser.setApplicationDescription(descriptionOf(commands));

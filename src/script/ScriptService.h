@@ -19,12 +19,6 @@ class ScriptService : public QObject
     Q_OBJECT
 
 public:
-    static inline const QString ServiceName = QStringLiteral("org.penwick.Penwick");
-    static inline const QString ApplicationPath = QStringLiteral("/org/penwick/Penwick");
-    static inline const QString LockedError = QStringLiteral("org.penwick.Penwick.Error.Locked");
-    static inline const QString NoSuchListError = QStringLiteral("org.penwick.Penwick.Error.NoSuchList");
-    static inline const QString BookingFailedError = QStringLiteral("org.penwick.Penwick.Error.BookingFailed");
-
     ScriptService(KAppController *app, const QDBusConnection &connection, QObject *parent = nullptr);
     ~ScriptService() override;
 

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -123,4 +125,21 @@ float floatValueOf(const QVariant &value)
     if (value.typeId() == QMetaType::QString)
         return floatValueOf(QStringView(value.toString()));
     return value.toFloat();
+}
+
+QString shortestText(float value)
+{
+    // At most 48 characters: a sign, "0." and the 45 decimals of the smallest
+    // float; the largest has 39 digits.
+    std::array<char, 64> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                      std::chars_format::fixed);
+    return QString::fromLatin1(buffer.data(), result.ptr - buffer.data());
+}
+
+double shortestDouble(float value)
+{
+    if (!std::isfinite(value))
+        return double(value);
+    return shortestText(value).toDouble();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+class QString;
 class QVariant;
 class QStringView;
 
@@ -17,3 +18,10 @@ float floatValueOf(const QVariant &value);
 int integerValueOf(QStringView text);
 float floatValueOf(QStringView text);
 double doubleValueOf(QStringView text);
+
+// The fewest decimal digits that read back as the same float, in fixed
+// notation ("1000000", not "1e+06"; "0.1", not "0.10000000149011612"): how an
+// amount is shown wherever it leaves the program as text.
+QString shortestText(float value);
+// That text's value as a double, for where amounts leave as numbers.
+double shortestDouble(float value);

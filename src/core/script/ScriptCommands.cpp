@@ -13,8 +13,11 @@ QVariantMap recordProperties(const PaymentData &record)
 {
     QVariantMap properties;
     for (const QString &key : {u"year"_s, u"month"_s, u"date"_s, u"category"_s, u"details"_s,
-                               u"amount"_s, u"payway"_s})
+                               u"payway"_s})
         properties.insert(key, record.propertyForKey(key));
+    // Scripts take numbers as doubles; the amount as it was typed, not with
+    // the digits a float gains on the way.
+    properties.insert(u"amount"_s, shortestDouble(record.amount()));
     properties.insert(u"description"_s, record.descriptionForScript());
     return properties;
 }

@@ -1,5 +1,11 @@
 #include "app/KAppController.h"
 
+#include "balance/BalanceWinController.h"
+#include "graph/GraphWinController.h"
+#include "input/InputWinController.h"
+#include "list/ListWinController.h"
+#include "prefs/PrefWinController.h"
+
 #include "ledger/DataFolder.h"
 #include "ledger/KController.h"
 #include "model/Notifications.h"
@@ -29,7 +35,16 @@ KAppController::KAppController(QObject *parent)
             &KAppController::reportMonthFileNotWritten);
 }
 
-KAppController::~KAppController() = default;
+KAppController::~KAppController()
+{
+    // Top-level windows have no parent to delete them.
+    delete m_passwordPanel;
+    delete myInputWinController;
+    delete myListWinController;
+    delete myGraphWinController;
+    delete myPrefWinController;
+    delete myBalanceWinController;
+}
 
 void KAppController::createActions()
 {
@@ -38,11 +53,36 @@ void KAppController::createActions()
     m_quitAction->setMenuRole(QAction::QuitRole);
     connect(m_quitAction, &QAction::triggered, this, &KAppController::quit);
 
+    addWindowAction(tr("&Input Window"), InputWindowTag, QKeySequence(Qt::CTRL | Qt::Key_1),
+                    &KAppController::showInputWindow);
+    addWindowAction(tr("&List Window"), ListWindowTag, QKeySequence(Qt::CTRL | Qt::Key_2),
+                    &KAppController::showListWindow);
+    addWindowAction(tr("&Graph Window"), GraphWindowTag, QKeySequence(Qt::CTRL | Qt::Key_3),
+                    &KAppController::showGraphWindow);
+    addWindowAction(tr("&Balance Window"), BalanceWindowTag, QKeySequence(Qt::CTRL | Qt::Key_4),
+                    &KAppController::showBalanceListWindow);
+
+    m_preferencesAction = new QAction(tr("&Preferences…"), this);
+    m_preferencesAction->setShortcut(QKeySequence::Preferences);
+    m_preferencesAction->setMenuRole(QAction::PreferencesRole);
+    connect(m_preferencesAction, &QAction::triggered, this, &KAppController::showPrefWindow);
+
     m_aboutAction = new QAction(tr("&About Penwick"), this);
     m_aboutAction->setMenuRole(QAction::AboutRole);
     connect(m_aboutAction, &QAction::triggered, this, &KAppController::showAbout);
 
     updateMenuItems();
+}
+
+QAction *KAppController::addWindowAction(const QString &text, int tag, const QKeySequence &shortcut,
+                                         void (KAppController::*show)())
+{
+    auto *action = new QAction(text, this);
+    action->setData(tag);
+    action->setShortcut(shortcut);
+    connect(action, &QAction::triggered, this, show);
+    m_windowActions.append(action);
+    return action;
 }
 
 bool KAppController::validateMenuItem(const QAction *item) const
@@ -66,20 +106,31 @@ void KAppController::updateMenuItems()
 
 QMenuBar *KAppController::installMenuBar(QWidget *window)
 {
-    auto *bar = new QMenuBar(window);
-    QMenu *file = bar->addMenu(tr("&File"));
-    file->addAction(m_quitAction);
-    if (!m_windowActions.isEmpty()) {
-        QMenu *windows = bar->addMenu(tr("&Window"));
-        windows->addActions(m_windowActions);
+    QMenuBar *bar = nullptr;
+    if (auto *mainWindow = qobject_cast<QMainWindow *>(window)) {
+        bar = mainWindow->menuBar();
+    } else {
+        bar = new QMenuBar(window);
+        if (window->layout())
+            window->layout()->setMenuBar(bar);
     }
+    // A window's own menus come first, File leading; the application's
+    // items join them: Quit at the end of File, then Window and Help.
+    const QList<QAction *> own = bar->actions();
+    QMenu *file = own.isEmpty() ? nullptr : own.constFirst()->menu();
+    if (file) {
+        file->addSeparator();
+    } else {
+        file = new QMenu(tr("&File"), bar);
+        bar->insertMenu(own.isEmpty() ? nullptr : own.constFirst(), file);
+    }
+    file->addAction(m_quitAction);
+    QMenu *windows = bar->addMenu(tr("&Window"));
+    windows->addActions(m_windowActions);
+    windows->addSeparator();
+    windows->addAction(m_preferencesAction);
     QMenu *help = bar->addMenu(tr("&Help"));
     help->addAction(m_aboutAction);
-
-    if (auto *mainWindow = qobject_cast<QMainWindow *>(window))
-        mainWindow->setMenuBar(bar);
-    else if (window->layout())
-        window->layout()->setMenuBar(bar);
     return bar;
 }
 
@@ -107,11 +158,13 @@ void KAppController::startUp()
     m_running = true;
     updateMenuItems();
 
-    const bool firstStart = m_ledger->setUpFirstStart();
+    if (m_ledger->setUpFirstStart()) {
+        showPrefWindow();
+        myPrefWinController->setFirstSetting(true);
+    }
     registerMyNotifications();
     m_ledger->readListPreference();
-    if (!firstStart || Settings().version() != 0)
-        openStartWindows();
+    openStartWindows();
 
     const QStringList waiting = std::exchange(m_filesWaitingForStart, {});
     for (const QString &path : waiting)
@@ -122,11 +175,161 @@ void KAppController::registerMyNotifications()
 {
     connect(Notifications::instance(), &Notifications::listPreferenceHasUpDated, m_ledger.get(),
             &KController::readListPreference, Qt::UniqueConnection);
+    connect(Notifications::instance(), &Notifications::listWinChangedDate, this,
+            &KAppController::listWinChangedDate, Qt::UniqueConnection);
 }
 
 void KAppController::openStartWindows()
 {
-    // Graph, list, input, balance: the order the windows are stacked in.
+    const Settings settings;
+    using Window = Settings::StartWindow;
+    if (settings.openWindow(Window::Graph))
+        showGraphWindow();
+    if (settings.openWindow(Window::List))
+        showListWindow();
+    if (settings.openWindow(Window::Input))
+        showInputWindow();
+    if (settings.openWindow(Window::Balance))
+        showBalanceListWindow();
+}
+
+
+namespace {
+void bringToFront(QWidget *window)
+{
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+} // namespace
+
+void KAppController::showInputWindow()
+{
+    if (!m_running)
+        return;
+    const bool wasVisible = myInputWinController && myInputWinController->isVisible();
+    if (!myInputWinController) {
+        myInputWinController = new InputWinController(m_ledger.get());
+        installMenuBar(myInputWinController);
+        connect(myInputWinController, &InputWinController::listWindowRequested, this,
+                &KAppController::showListWindow);
+        connect(myInputWinController, &InputWinController::quitRequested, qApp,
+                &QCoreApplication::quit);
+    }
+    bringToFront(myInputWinController);
+    if (!wasVisible) {
+        const QDate today = QDate::currentDate();
+        myInputWinController->setYear(today.year(), today.month(), today.day());
+    }
+}
+
+void KAppController::showInputWindowWithYear(int year, int month, int date)
+{
+    if (!m_running)
+        return;
+    const bool wasVisible = myInputWinController && myInputWinController->isVisible();
+    showInputWindow();
+    if (!wasVisible)
+        myInputWinController->setYear(year, month, date);
+}
+
+void KAppController::showListWindow()
+{
+    if (!m_running)
+        return;
+    if (!myListWinController) {
+        myListWinController = new ListWinController(m_ledger.get());
+        installMenuBar(myListWinController);
+        connect(myListWinController, &ListWinController::inputWindowRequested, this,
+                &KAppController::showInputWindowWithYear);
+    }
+    if (myBalanceWinController)
+        myBalanceWinController->showDataOfYear(myListWinController->year(),
+                                               myListWinController->month());
+    bringToFront(myListWinController);
+}
+
+void KAppController::showGraphWindow()
+{
+    if (!m_running)
+        return;
+    if (!myGraphWinController) {
+        myGraphWinController = new GraphWinController(m_ledger.get());
+        installMenuBar(myGraphWinController);
+        connect(myGraphWinController, &GraphWinController::categoryListRequested, this,
+                &KAppController::showCategoryList);
+    }
+    bringToFront(myGraphWinController);
+    if (myListWinController)
+        myGraphWinController->setTargetYear(myListWinController->year(),
+                                            myListWinController->month());
+}
+
+void KAppController::showBalanceListWindow()
+{
+    if (!m_running)
+        return;
+    if (!myBalanceWinController) {
+        myBalanceWinController = new BalanceWinController(m_ledger.get());
+        installMenuBar(myBalanceWinController);
+    }
+    bringToFront(myBalanceWinController);
+    if (myListWinController) {
+        myBalanceWinController->showDataOfYear(myListWinController->year(),
+                                               myListWinController->month());
+    } else {
+        // In December this asks for month 13, which the window takes as
+        // January of the next year.
+        const QDate today = QDate::currentDate();
+        myBalanceWinController->showDataOfYear(today.year(), today.month() + 1);
+    }
+}
+
+void KAppController::showPrefWindow()
+{
+    if (!m_running)
+        return;
+    if (!myPrefWinController) {
+        myPrefWinController = new PrefWinController(m_ledger.get());
+        installMenuBar(myPrefWinController);
+        connect(myPrefWinController, &PrefWinController::dataFolderChanged, this,
+                &KAppController::dataFolderChanged);
+    }
+    bringToFront(myPrefWinController);
+}
+
+void KAppController::listWinChangedDate()
+{
+    if (myListWinController && myBalanceWinController)
+        myBalanceWinController->showDataOfYear(myListWinController->year(),
+                                               myListWinController->month());
+}
+
+void KAppController::showListOfYear(int year, int month)
+{
+    if (!m_running)
+        return;
+    if (!myListWinController)
+        showListWindow();
+    else if (!myListWinController->isVisible())
+        bringToFront(myListWinController);
+    myListWinController->clearExtractKey();
+    myListWinController->showListOfYear(year, month);
+    bringToFront(myListWinController);
+}
+
+void KAppController::showCategoryList(int category, int year, int month)
+{
+    showListOfYear(year, month);
+    if (myListWinController)
+        myListWinController->showDataOfCategory(category);
+}
+
+void KAppController::showPaywayList(int payway, int year, int month)
+{
+    showListOfYear(year, month);
+    if (myListWinController)
+        myListWinController->showDataOfPayway(payway);
 }
 
 bool KAppController::openFile(const QString &path)
@@ -138,6 +341,9 @@ bool KAppController::openFile(const QString &path)
         return true;
     }
     m_ledger->readDataFromPath(path);
+    // A name that gives no month still selects the list window, at month 0.
+    const auto yearMonth = DataFolder::yearMonthFromPath(path);
+    showListOfYear(yearMonth ? yearMonth->year : 0, yearMonth ? yearMonth->month : 0);
     return true;
 }
 
@@ -161,13 +367,21 @@ void KAppController::activate()
 
 bool KAppController::applicationShouldTerminate()
 {
+    if (myInputWinController && !myInputWinController->canTerminateApp()) {
+        myInputWinController->confirmInputDataBeforeTerminate();
+        return false;
+    }
     return true;
 }
 
 void KAppController::applicationWillTerminate()
 {
-    if (m_running)
-        m_ledger->saveAllEditedData();
+    if (!m_running)
+        return;
+    // A memo being typed in the list window is part of its month.
+    if (myListWinController)
+        myListWinController->saveData();
+    m_ledger->saveAllEditedData();
 }
 
 void KAppController::quit()

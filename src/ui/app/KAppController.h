@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QObject>
 #include <QPointer>
 #include <QSet>
@@ -7,8 +8,13 @@
 
 #include <memory>
 
+class BalanceWinController;
 class ConfirmPassPanelController;
+class GraphWinController;
+class InputWinController;
 class KController;
+class ListWinController;
+class PrefWinController;
 class QAction;
 class QMenuBar;
 class QWidget;
@@ -58,12 +64,35 @@ public:
     // Writes every edited month; connected to the application's last moments.
     void applicationWillTerminate();
 
+    // The windows, each made on first use and kept to the end. Nothing
+    // opens before start-up has passed the password.
+    void showInputWindow();
+    // Opens the input window; a window that was hidden starts at that day.
+    void showInputWindowWithYear(int year, int month, int date);
+    void showListWindow();
+    void showGraphWindow();
+    void showBalanceListWindow();
+    void showPrefWindow();
+    // Shows the month in the list window, opening it if need be, with the
+    // search cleared; the variants then select one category or payway.
+    void showListOfYear(int year, int month);
+    void showCategoryList(int category, int year, int month);
+    void showPaywayList(int payway, int year, int month);
+
 public slots:
     // Quit, as chosen from the menu: asks applicationShouldTerminate first.
     void quit();
 
+signals:
+    // The preferences moved the data folder: the single-instance lock follows.
+    void dataFolderChanged(const QString &folder);
+
 private:
     void createActions();
+    QAction *addWindowAction(const QString &text, int tag, const QKeySequence &shortcut,
+                             void (KAppController::*show)());
+    // The window's menu bar and its frame, restored from the last run.
+    void listWinChangedDate();
     void updateMenuItems();
     void registerMyNotifications();
     void openStartWindows();
@@ -75,6 +104,11 @@ private:
     std::unique_ptr<KController> m_ledger;
     bool m_running = false;
     QPointer<ConfirmPassPanelController> m_passwordPanel;
+    QPointer<InputWinController> myInputWinController;
+    QPointer<ListWinController> myListWinController;
+    QPointer<GraphWinController> myGraphWinController;
+    QPointer<PrefWinController> myPrefWinController;
+    QPointer<BalanceWinController> myBalanceWinController;
     QStringList m_filesWaitingForStart;
     // Paths already reported, so that a folder of broken files, or a disk
     // that stays full, is told once rather than at every save.
@@ -83,5 +117,6 @@ private:
 
     QAction *m_quitAction = nullptr;
     QAction *m_aboutAction = nullptr;
+    QAction *m_preferencesAction = nullptr;
     QList<QAction *> m_windowActions;
 };

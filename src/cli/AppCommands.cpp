@@ -1,0 +1,414 @@
+#include "AppCommands.h"
+
+#include "CommandLine.h"
+
+#include "script/ScriptNames.h"
+
+#include <QCommandLineParser>
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using RecordList = QList<QVariantMap>;
+
+// A call to the running program. Failures are printed once, here; the
+// caller only sees that there is no answer.
+std::optional<QList<QVariant>> call(const QString &command, const QString &path,
+                                    QLatin1StringView interface, const QString &method,
+                                    const QVariantList &arguments = {})
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        CommandLine::printError(AppCommands::tr("%1: there is no session bus to reach Penwick on")
+                                    .arg(command));
+        return std::nullopt;
+    }
+    if (!bus.interface()->isServiceRegistered(ScriptNames::Service)) {
+        CommandLine::printError(AppCommands::tr("%1: Penwick is not running").arg(command));
+        return std::nullopt;
+    }
+    QDBusMessage message = QDBusMessage::createMethodCall(ScriptNames::Service, path, interface, method);
+    message.setArguments(arguments);
+    const QDBusMessage reply = bus.call(message, QDBus::Block, 60000);
+    if (reply.type() == QDBusMessage::ErrorMessage) {
+        CommandLine::printError(u"%1: %2"_s.arg(command, reply.errorMessage()));
+        return std::nullopt;
+    }
+    return reply.arguments();
+}
+
+std::optional<QList<QVariant>> callApplication(const QString &command, const QString &method,
+                                               const QVariantList &arguments = {})
+{
+    return call(command, ScriptNames::ApplicationPath, ScriptNames::ApplicationInterface, method,
+                arguments);
+}
+
+std::optional<QStringList> names(const QString &command, const QString &method)
+{
+    const auto reply = callApplication(command, method);
+    if (!reply || reply->isEmpty())
+        return std::nullopt;
+    return reply->constFirst().toStringList();
+}
+
+QVariantMap recordOf(const QVariant &value)
+{
+    if (value.canConvert<QDBusArgument>()) {
+        QVariantMap record;
+        value.value<QDBusArgument>() >> record;
+        return record;
+    }
+    return value.toMap();
+}
+
+RecordList recordsOf(const QVariant &value)
+{
+    RecordList records;
+    if (value.canConvert<QDBusArgument>())
+        value.value<QDBusArgument>() >> records;
+    return records;
+}
+
+void printRecords(const RecordList &records, bool json)
+{
+    if (json) {
+        QJsonArray array;
+        for (const QVariantMap &record : records)
+            array.append(QJsonObject::fromVariantMap(record));
+        CommandLine::printOut(QJsonDocument(array).toJson(QJsonDocument::Indented));
+        return;
+    }
+    QByteArray text;
+    for (const QVariantMap &record : records)
+        text += record.value(u"description"_s).toString().toUtf8() + '\n';
+    CommandLine::printOut(text);
+}
+
+void printNames(const QStringList &list, bool json)
+{
+    if (json) {
+        CommandLine::printOut(QJsonDocument(QJsonArray::fromStringList(list)).toJson());
+        return;
+    }
+    QByteArray text;
+    for (const QString &name : list)
+        text += CommandLine::escaped(name).toUtf8() + '\n';
+    CommandLine::printOut(text);
+}
+
+const QCommandLineOption jsonOption(u"json"_s, AppCommands::tr("Print JSON instead of lines."));
+
+// The object path of a month, asked of the program so that it exists there.
+std::optional<QString> monthPath(const QString &command, const QString &text)
+{
+    const auto month = AppCommands::parseMonth(text);
+    if (!month) {
+        CommandLine::usageError(command, AppCommands::tr("'%1' is not a month; write it as YYYYMM, "
+                                                         "as in 200605")
+                                             .arg(text));
+        return std::nullopt;
+    }
+    const auto reply = callApplication(command, u"DataListWithID"_s,
+                                       {month->year * 100 + month->month});
+    if (!reply || reply->isEmpty())
+        return std::nullopt;
+    return reply->constFirst().value<QDBusObjectPath>().path();
+}
+
+// Parses a month command's line: YYYYMM first, then the given options.
+std::optional<int> parseMonthCommand(QCommandLineParser &parser, const QString &command,
+                                     const QStringList &arguments)
+{
+    parser.addOption(jsonOption);
+    parser.addPositionalArgument(u"YYYYMM"_s, AppCommands::tr("The month, as in 200605."));
+    if (const auto status = CommandLine::parse(parser, command, arguments))
+        return status;
+    if (parser.positionalArguments().size() != 1)
+        return CommandLine::usageError(command, AppCommands::tr("give exactly one month"));
+    return std::nullopt;
+}
+
+int runOnMonth(const QString &command, const QString &monthText, const QString &method,
+               const QVariantList &arguments, bool json)
+{
+    const auto path = monthPath(command, monthText);
+    if (!path)
+        return CommandLine::Failure;
+    const auto reply = call(command, *path, ScriptNames::DataListInterface, method, arguments);
+    if (!reply || reply->isEmpty())
+        return CommandLine::Failure;
+    printRecords(recordsOf(reply->constFirst()), json);
+    return CommandLine::Success;
+}
+
+// Names or indices, separated by commas, as the indices in a text the
+// program reads ("2 5").
+std::optional<QString> indicesText(const QString &command, const QString &given,
+                                   const QString &method, const QString &what)
+{
+    const auto list = names(command, method);
+    if (!list)
+        return std::nullopt;
+    QStringList indices;
+    for (const QString &item : given.split(u',', Qt::SkipEmptyParts)) {
+        const auto index = AppCommands::indexOf(item.trimmed(), *list);
+        if (!index) {
+            CommandLine::printError(AppCommands::tr("%1: unknown %2 '%3'; there are: %4")
+                                        .arg(command, what, item.trimmed(), list->join(u", "_s)));
+            return std::nullopt;
+        }
+        indices.append(QString::number(*index));
+    }
+    return indices.join(u' ');
+}
+
+} // namespace
+
+QList<AppCommands::Command> AppCommands::commands()
+{
+    return {
+        {u"categories"_s, tr("Print the category names (the last is income)."), &categories},
+        {u"payways"_s, tr("Print the payway names."), &payways},
+        {u"show"_s, tr("Open a window: input, list, graph or balance."), &show},
+        {u"book"_s, tr("Book one entry."), &book},
+        {u"list"_s, tr("Print the entries of a month."), &list},
+        {u"search"_s, tr("Search a month and print what it finds."), &search},
+        {u"sort"_s, tr("Sort a month's selected entries and print them."), &sort},
+    };
+}
+
+std::optional<AppCommands::Month> AppCommands::parseMonth(const QString &text)
+{
+    static const QRegularExpression pattern(u"^(\\d{1,4})(\\d\\d)$"_s);
+    const auto match = pattern.match(text.trimmed());
+    if (!match.hasMatch())
+        return std::nullopt;
+    const int year = match.capturedView(1).toInt();
+    const int month = match.capturedView(2).toInt();
+    if (year < 1 || month < 1 || month > 12)
+        return std::nullopt;
+    return Month{year, month};
+}
+
+std::optional<int> AppCommands::indexOf(const QString &nameOrIndex, const QStringList &names)
+{
+    if (const qsizetype exact = names.indexOf(nameOrIndex); exact >= 0)
+        return int(exact);
+    bool isNumber = false;
+    const int index = nameOrIndex.toInt(&isNumber);
+    if (isNumber)
+        return index >= 0 && index < names.size() ? std::optional<int>(index) : std::nullopt;
+    std::optional<int> found;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        if (names.at(i).compare(nameOrIndex, Qt::CaseInsensitive) != 0)
+            continue;
+        if (found)
+            return std::nullopt; // ambiguous
+        found = int(i);
+    }
+    return found;
+}
+
+int AppCommands::categories(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("Prints the category names, in order; the last is income."));
+    parser.addOption(jsonOption);
+    if (const auto status = CommandLine::parse(parser, u"categories"_s, arguments))
+        return *status;
+    const auto list = names(u"categories"_s, u"CategoryNames"_s);
+    if (!list)
+        return CommandLine::Failure;
+    printNames(*list, parser.isSet(jsonOption));
+    return CommandLine::Success;
+}
+
+int AppCommands::payways(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("Prints the payway names, in order."));
+    parser.addOption(jsonOption);
+    if (const auto status = CommandLine::parse(parser, u"payways"_s, arguments))
+        return *status;
+    const auto list = names(u"payways"_s, u"PaywayNames"_s);
+    if (!list)
+        return CommandLine::Failure;
+    printNames(*list, parser.isSet(jsonOption));
+    return CommandLine::Success;
+}
+
+int AppCommands::show(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("Opens one of the program's windows."));
+    parser.addPositionalArgument(u"WINDOW"_s, tr("input, list, graph or balance"));
+    if (const auto status = CommandLine::parse(parser, u"show"_s, arguments))
+        return *status;
+    static const QHash<QString, QString> methods{{u"input"_s, u"ShowInputWindow"_s},
+                                                 {u"list"_s, u"ShowListWindow"_s},
+                                                 {u"graph"_s, u"ShowGraphWindow"_s},
+                                                 {u"balance"_s, u"ShowBalanceListWindow"_s}};
+    const QStringList windows = parser.positionalArguments();
+    if (windows.size() != 1 || !methods.contains(windows.constFirst()))
+        return CommandLine::usageError(u"show"_s, tr("name one window: input, list, graph or balance"));
+    return callApplication(u"show"_s, methods.value(windows.constFirst())) ? CommandLine::Success
+                                                                          : CommandLine::Failure;
+}
+
+int AppCommands::book(const QStringList &arguments)
+{
+    const QString command = u"book"_s;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        tr("Books one entry and prints it. Without a date it is booked today."));
+    const QCommandLineOption amount(u"amount"_s, tr("The amount (required)."), u"N"_s);
+    const QCommandLineOption category(u"category"_s, tr("The category, by name or index (required)."),
+                                      u"NAME|INDEX"_s);
+    const QCommandLineOption details(u"details"_s, tr("What it was."), u"TEXT"_s);
+    const QCommandLineOption payway(u"payway"_s, tr("The payway, by name or index."), u"NAME|INDEX"_s);
+    const QCommandLineOption year(u"year"_s, tr("The year."), u"YYYY"_s);
+    const QCommandLineOption month(u"month"_s, tr("The month, 1 to 12."), u"M"_s);
+    const QCommandLineOption date(u"date"_s, tr("The day of the month."), u"D"_s);
+    parser.addOptions({amount, category, details, payway, year, month, date, jsonOption});
+    if (const auto status = CommandLine::parse(parser, command, arguments))
+        return *status;
+    if (!parser.positionalArguments().isEmpty())
+        return CommandLine::usageError(command, tr("unexpected '%1'").arg(parser.positionalArguments().constFirst()));
+    if (!parser.isSet(amount) || !parser.isSet(category))
+        return CommandLine::usageError(command, tr("--amount and --category are required"));
+
+    QVariantMap fields;
+    bool valid = false;
+    const double amountValue = parser.value(amount).toDouble(&valid);
+    if (!valid)
+        return CommandLine::usageError(command, tr("'%1' is not an amount").arg(parser.value(amount)));
+    fields.insert(u"amount"_s, amountValue);
+    for (const auto &[option, key] : {std::pair{&year, u"year"_s}, std::pair{&month, u"month"_s},
+                                      std::pair{&date, u"date"_s}}) {
+        if (!parser.isSet(*option))
+            continue;
+        const int value = parser.value(*option).toInt(&valid);
+        if (!valid)
+            return CommandLine::usageError(command, tr("'%1' is not a number").arg(parser.value(*option)));
+        fields.insert(key, value);
+    }
+    if (parser.isSet(details))
+        fields.insert(u"details"_s, parser.value(details));
+    for (const auto &[option, key, method, what] :
+         {std::tuple{&category, u"category"_s, u"CategoryNames"_s, tr("category")},
+          std::tuple{&payway, u"payway"_s, u"PaywayNames"_s, tr("payway")}}) {
+        if (!parser.isSet(*option))
+            continue;
+        const auto list = names(command, method);
+        if (!list)
+            return CommandLine::Failure;
+        const auto index = indexOf(parser.value(*option), *list);
+        if (!index) {
+            CommandLine::printError(tr("%1: unknown %2 '%3'; there are: %4")
+                                        .arg(command, what, parser.value(*option), list->join(u", "_s)));
+            return CommandLine::Failure;
+        }
+        fields.insert(key, *index);
+    }
+
+    const auto reply = callApplication(command, u"MakeNewPaymentData"_s, {fields});
+    if (!reply || reply->isEmpty())
+        return CommandLine::Failure;
+    printRecords({recordOf(reply->constFirst())}, parser.isSet(jsonOption));
+    return CommandLine::Success;
+}
+
+int AppCommands::list(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("Prints every entry of a month, by day."));
+    if (const auto status = parseMonthCommand(parser, u"list"_s, arguments))
+        return *status;
+    return runOnMonth(u"list"_s, parser.positionalArguments().constFirst(), u"Records"_s, {},
+                      parser.isSet(jsonOption));
+}
+
+int AppCommands::search(const QStringList &arguments)
+{
+    const QString command = u"search"_s;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        tr("Searches a month and prints the entries found. Every option given must match; "
+           "the month keeps the search, as if made in the list window."));
+    const QCommandLineOption days(u"days"_s, tr("Days, as in \"1,5,10-12\"."), u"DAYS"_s);
+    const QCommandLineOption words(u"words"_s, tr("Words, any of which the details hold."), u"WORDS"_s);
+    const QCommandLineOption category(u"category"_s, tr("Categories by name or index, separated by commas."),
+                                      u"NAMES"_s);
+    const QCommandLineOption payway(u"payway"_s, tr("Payways by name or index, separated by commas."),
+                                    u"NAMES"_s);
+    const QCommandLineOption min(u"min"_s, tr("The smallest amount."), u"N"_s);
+    const QCommandLineOption max(u"max"_s, tr("The largest amount."), u"N"_s);
+    parser.addOptions({days, words, category, payway, min, max});
+    if (const auto status = parseMonthCommand(parser, command, arguments))
+        return *status;
+
+    QVariantMap keys;
+    if (parser.isSet(days))
+        keys.insert(u"Date"_s, parser.value(days));
+    if (parser.isSet(words))
+        keys.insert(u"Details"_s, parser.value(words));
+    for (const auto &[option, key] : {std::pair{&min, u"AmountMin"_s}, std::pair{&max, u"AmountMax"_s}}) {
+        if (!parser.isSet(*option))
+            continue;
+        bool valid = false;
+        const double value = parser.value(*option).toDouble(&valid);
+        if (!valid)
+            return CommandLine::usageError(command, tr("'%1' is not an amount").arg(parser.value(*option)));
+        keys.insert(key, value);
+    }
+    for (const auto &[option, key, method, what] :
+         {std::tuple{&category, u"Category"_s, u"CategoryNames"_s, tr("category")},
+          std::tuple{&payway, u"Payway"_s, u"PaywayNames"_s, tr("payway")}}) {
+        if (!parser.isSet(*option))
+            continue;
+        const auto text = indicesText(command, parser.value(*option), method, what);
+        if (!text)
+            return CommandLine::Failure;
+        keys.insert(key, *text);
+    }
+    return runOnMonth(command, parser.positionalArguments().constFirst(), u"ExtractWithASCommand"_s,
+                      {keys}, parser.isSet(jsonOption));
+}
+
+int AppCommands::sort(const QStringList &arguments)
+{
+    const QString command = u"sort"_s;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        tr("Sorts the entries a month selects and prints them. Without --ascend or --descend "
+           "the current order turns round."));
+    const QCommandLineOption key(u"key"_s, tr("Date, Category, Details, Amount or Payway."), u"KEY"_s);
+    const QCommandLineOption ascend(u"ascend"_s, tr("Smallest first."));
+    const QCommandLineOption descend(u"descend"_s, tr("Largest first."));
+    parser.addOptions({key, ascend, descend});
+    if (const auto status = parseMonthCommand(parser, command, arguments))
+        return *status;
+    static const QStringList keys{u"Date"_s, u"Category"_s, u"Details"_s, u"Amount"_s, u"Payway"_s};
+    if (!keys.contains(parser.value(key)))
+        return CommandLine::usageError(command, tr("--key must be one of %1").arg(keys.join(u", "_s)));
+
+    QVariantMap sortArguments{{u"sortKey"_s, parser.value(key)}};
+    if (parser.isSet(ascend))
+        sortArguments.insert(u"ascend"_s, true);
+    if (parser.isSet(descend))
+        sortArguments.insert(u"descend"_s, true);
+    return runOnMonth(command, parser.positionalArguments().constFirst(), u"SortWithASCommand"_s,
+                      {sortArguments}, parser.isSet(jsonOption));
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLatin1StringView>
+
+// The names under which the running program answers scripts on the session
+// bus, shared by the service and its command-line client.
+namespace ScriptNames {
+
+inline constexpr QLatin1StringView Service{"org.penwick.Penwick"};
+inline constexpr QLatin1StringView ApplicationPath{"/org/penwick/Penwick"};
+// Month lists live below it, named by year * 100 + month.
+inline constexpr QLatin1StringView DataListsPath{"/org/penwick/Penwick/DataLists/"};
+inline constexpr QLatin1StringView ApplicationInterface{"org.penwick.Penwick.Application"};
+inline constexpr QLatin1StringView DataListInterface{"org.penwick.Penwick.DataList"};
+
+// Errors: the program waits for its password; no such month; the month
+// could not take a new entry.
+inline constexpr QLatin1StringView LockedError{"org.penwick.Penwick.Error.Locked"};
+inline constexpr QLatin1StringView NoSuchListError{"org.penwick.Penwick.Error.NoSuchList"};
+inline constexpr QLatin1StringView BookingFailedError{"org.penwick.Penwick.Error.BookingFailed"};
+
+} // namespace ScriptNames

@@ -1,0 +1,286 @@
+#include "TestDataFolder.h"
+
+#include "ScriptService.h"
+
+#include "app/KAppController.h"
+#include "ledger/KController.h"
+#include "model/MonthDataList.h"
+#include "script/ScriptNames.h"
+#include "security/PasswordLock.h"
+#include "settings/Settings.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusInterface>
+#include <QDBusObjectPath>
+#include <QDBusReply>
+#include <QFileInfo>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct Run
+{
+    int exitCode = -1;
+    QString out;
+    QString err;
+};
+
+// Runs a client on the private bus while this process keeps serving it.
+Run runClient(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    QSignalSpy finished(&process, &QProcess::finished);
+    process.start(program, arguments);
+    if (!finished.wait(20000))
+        qFatal("%s did not finish", qPrintable(program));
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+Run gdbus(const QString &path, const QString &method, const QStringList &arguments = {})
+{
+    return runClient(u"gdbus"_s, QStringList{u"call"_s, u"--session"_s, u"--dest"_s,
+                                             ScriptNames::Service, u"--object-path"_s, path,
+                                             u"--method"_s, method}
+                                     + arguments);
+}
+
+Run penwickctl(const QStringList &arguments)
+{
+    return runClient(QStringLiteral(PENWICKCTL_PATH), arguments);
+}
+
+} // namespace
+
+// The scripting service on a private session bus, driven through QtDBus, a
+// client nobody here wrote (gdbus), and penwickctl.
+class TestScriptService : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void cleanupTestCase();
+
+    void applicationObject();
+    void monthListsByIdIndexAndName();
+    void searchAndSortThroughAnotherClient();
+    void penwickctlBooksListsAndSearches();
+    void penwickctlErrorsAreOneLine();
+    void lockedProgramAnswersOnlyAnError();
+
+private:
+    QDBusInterface application();
+    QVariantList recordsAt(const QString &path, const QString &method, const QVariantList &arguments = {});
+
+    TestDataFolder m_home;
+    QProcess m_bus;
+    QString m_address;
+    std::unique_ptr<KAppController> m_app;
+    std::unique_ptr<ScriptService> m_service;
+};
+
+void TestScriptService::initTestCase()
+{
+    m_bus.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
+    QVERIFY(m_bus.waitForReadyRead(10000));
+    m_address = QString::fromUtf8(m_bus.readLine()).trimmed();
+    QVERIFY(!m_address.isEmpty());
+    // The clients this test starts find the private bus as their session bus.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", m_address.toUtf8());
+}
+
+void TestScriptService::init()
+{
+    m_home.freshDataFolder();
+    Settings().setVersion(1);
+    m_app = std::make_unique<KAppController>();
+    m_service = std::make_unique<ScriptService>(m_app.get(), QDBusConnection::sessionBus());
+    QVERIFY2(m_service->start(), qPrintable(m_service->errorString()));
+    if (QTest::currentTestFunction() == "lockedProgramAnswersOnlyAnError"_L1)
+        QVERIFY(PasswordLock::savePasswordToDefault(u"secret"_s));
+    m_app->confirmPassword();
+}
+
+void TestScriptService::cleanup()
+{
+    m_service.reset();
+    m_app.reset();
+    PasswordLock::savePasswordToDefault({});
+}
+
+void TestScriptService::cleanupTestCase()
+{
+    m_bus.kill();
+    m_bus.waitForFinished();
+}
+
+QDBusInterface TestScriptService::application()
+{
+    return QDBusInterface(ScriptNames::Service, ScriptNames::ApplicationPath,
+                          ScriptNames::ApplicationInterface, QDBusConnection::sessionBus());
+}
+
+QVariantList TestScriptService::recordsAt(const QString &path, const QString &method,
+                                          const QVariantList &arguments)
+{
+    QDBusInterface list(ScriptNames::Service, path, ScriptNames::DataListInterface,
+                        QDBusConnection::sessionBus());
+    const QDBusMessage reply = list.callWithArgumentList(QDBus::Block, method, arguments);
+    if (reply.type() == QDBusMessage::ErrorMessage)
+        qFatal("%s: %s", qPrintable(method), qPrintable(reply.errorMessage()));
+    QList<QVariantMap> records;
+    reply.arguments().constFirst().value<QDBusArgument>() >> records;
+    QVariantList details;
+    for (const QVariantMap &record : records)
+        details.append(record.value(u"details"_s));
+    return details;
+}
+
+void TestScriptService::applicationObject()
+{
+    QDBusInterface app = application();
+    const QDBusReply<QStringList> categories = app.call(u"CategoryNames"_s);
+    QCOMPARE(categories.value(), m_app->ledger()->categoryList());
+    QCOMPARE(QDBusReply<QStringList>(app.call(u"PaywayNames"_s)).value(),
+             m_app->ledger()->paywayList());
+
+    const QDBusMessage booked = app.call(u"MakeNewPaymentData"_s,
+                                         QVariantMap{{u"year"_s, 2006}, {u"month"_s, 14},
+                                                     {u"date"_s, 2}, {u"amount"_s, 500},
+                                                     {u"category"_s, 2}, {u"details"_s, u"Rice"_s}});
+    QCOMPARE(booked.type(), QDBusMessage::ReplyMessage);
+    QVariantMap record;
+    booked.arguments().constFirst().value<QDBusArgument>() >> record;
+    QCOMPARE(record.value(u"month"_s).toInt(), 12);
+    QCOMPARE(record.value(u"details"_s).toString(), u"Rice"_s);
+    QVERIFY(QFileInfo::exists(m_app->ledger()->filePathForYear(2006, 12)));
+}
+
+void TestScriptService::monthListsByIdIndexAndName()
+{
+    QDBusInterface app = application();
+    const QDBusReply<QDBusObjectPath> byId = app.call(u"DataListWithID"_s, 200605);
+    QCOMPARE(byId.value().path(), ScriptNames::DataListsPath + u"200605"_s);
+    QDBusInterface may(ScriptNames::Service, byId.value().path(), ScriptNames::DataListInterface,
+                       QDBusConnection::sessionBus());
+    QCOMPARE(may.property("Year").toInt(), 2006);
+    QCOMPARE(may.property("Month").toInt(), 5);
+    QCOMPARE(may.property("Name").toString(), u"200605"_s);
+
+    const QDBusReply<QDBusObjectPath> byIndex = app.call(u"DataListAtIndex"_s, 0);
+    QCOMPARE(byIndex.value().path(), ScriptNames::DataListsPath + u"200401"_s);
+    const QDBusReply<QDBusObjectPath> byName = app.call(u"DataListWithName"_s, u"200605"_s);
+    QCOMPARE(byName.value(), byId.value());
+
+    const QDBusMessage impossible = app.call(u"DataListWithID"_s, 200614);
+    QCOMPARE(impossible.errorName(), QString(ScriptNames::NoSuchListError));
+
+    app.call(u"MakeNewPaymentData"_s, QVariantMap{{u"year"_s, 2003}, {u"month"_s, 2}});
+    const QDBusReply<QList<QDBusObjectPath>> all = app.call(u"DataLists"_s);
+    QCOMPARE(all.value().constFirst().path(), ScriptNames::DataListsPath + u"200302"_s);
+}
+
+void TestScriptService::searchAndSortThroughAnotherClient()
+{
+    const auto may = m_app->ledger()->monthListForYear(2006, 5);
+    may->addData({std::make_shared<PaymentData>(2006, 5, 1, 2, u"Bread"_s, 3.5f, 0),
+                  std::make_shared<PaymentData>(2006, 5, 10, 5, u"Bus pass"_s, 60, 1),
+                  std::make_shared<PaymentData>(2006, 5, 11, 3, u"Socks"_s, 12, 0)});
+    const QString path = ScriptNames::DataListsPath + u"200605"_s;
+    QDBusInterface(ScriptNames::Service, ScriptNames::ApplicationPath,
+                   ScriptNames::ApplicationInterface, QDBusConnection::sessionBus())
+        .call(u"DataListWithID"_s, 200605);
+
+    // A category text of two numbers selects either.
+    const Run search = gdbus(path, u"org.penwick.Penwick.DataList.ExtractWithASCommand"_s,
+                             {u"{'Category': <'2 5'>}"_s});
+    QVERIFY2(search.exitCode == 0, qPrintable(search.err));
+    QVERIFY(search.out.contains(u"Bread"_s) && search.out.contains(u"Bus pass"_s));
+    QVERIFY(!search.out.contains(u"Socks"_s));
+
+    const Run sorted = gdbus(path, u"org.penwick.Penwick.DataList.SortWithASCommand"_s,
+                             {u"{'sortKey': <'Amount'>, 'descend': <true>, 'ascend': <true>}"_s});
+    QVERIFY2(sorted.exitCode == 0, qPrintable(sorted.err));
+    QVERIFY(sorted.out.indexOf(u"Bread"_s) < sorted.out.indexOf(u"Bus pass"_s));
+
+    const Run year = gdbus(path, u"org.freedesktop.DBus.Properties.Get"_s,
+                           {u"org.penwick.Penwick.DataList"_s, u"Year"_s});
+    QCOMPARE(year.out.trimmed(), u"(<2006>,)"_s);
+    QCOMPARE(recordsAt(path, u"CancelExtractWithASCommand"_s).size(), 3);
+}
+
+void TestScriptService::penwickctlBooksListsAndSearches()
+{
+    const QStringList categories = m_app->ledger()->categoryList();
+    const Run names = penwickctl({u"categories"_s});
+    QCOMPARE(names.exitCode, 0);
+    QCOMPARE(names.out, categories.join(u'\n') + u'\n');
+
+    const Run booked = penwickctl({u"book"_s, u"--amount"_s, u"1250"_s, u"--category"_s,
+                                   categories.at(1), u"--details"_s, u"Dinner out"_s,
+                                   u"--year"_s, u"2006"_s, u"--month"_s, u"5"_s, u"--date"_s, u"20"_s});
+    QVERIFY2(booked.exitCode == 0, qPrintable(booked.err));
+    QCOMPARE(booked.out.count(u'\n'), 1);
+    QVERIFY(booked.out.contains(u"Dinner out"_s));
+    QVERIFY(QFileInfo::exists(m_app->ledger()->filePathForYear(2006, 5)));
+    penwickctl({u"book"_s, u"--amount"_s, u"80"_s, u"--category"_s, u"0"_s, u"--details"_s,
+                u"Apples"_s, u"--year"_s, u"2006"_s, u"--month"_s, u"5"_s, u"--date"_s, u"3"_s});
+
+    const Run listed = penwickctl({u"list"_s, u"200605"_s});
+    QCOMPARE(listed.exitCode, 0);
+    QCOMPARE(listed.out.count(u'\n'), 2);
+    QVERIFY(listed.out.indexOf(u"Apples"_s) < listed.out.indexOf(u"Dinner out"_s));
+
+    const Run found = penwickctl({u"search"_s, u"200605"_s, u"--days"_s, u"15-25"_s, u"--json"_s});
+    QCOMPARE(found.exitCode, 0);
+    QVERIFY(found.out.contains(u"\"details\": \"Dinner out\""_s));
+    QVERIFY(!found.out.contains(u"Apples"_s));
+
+    // A search without keys selects everything again.
+    QCOMPARE(penwickctl({u"search"_s, u"200605"_s}).out.count(u'\n'), 2);
+    const Run sorted = penwickctl({u"sort"_s, u"200605"_s, u"--key"_s, u"Amount"_s, u"--descend"_s});
+    QCOMPARE(sorted.exitCode, 0);
+    QCOMPARE(sorted.out.count(u'\n'), 2);
+    QVERIFY(sorted.out.indexOf(u"Dinner out"_s) < sorted.out.indexOf(u"Apples"_s));
+}
+
+void TestScriptService::penwickctlErrorsAreOneLine()
+{
+    const auto expectError = [](const Run &run, const QString &words) {
+        QVERIFY2(run.exitCode != 0, qPrintable(run.out));
+        QVERIFY2(run.err.contains(words), qPrintable(run.err));
+        QVERIFY(run.out.isEmpty());
+    };
+    expectError(penwickctl({u"book"_s, u"--amount"_s, u"5"_s, u"--category"_s, u"Nonsense"_s}),
+                u"unknown category 'Nonsense'"_s);
+    expectError(penwickctl({u"list"_s, u"200613"_s}), u"'200613' is not a month"_s);
+    expectError(penwickctl({u"show"_s, u"everything"_s}), u"name one window"_s);
+
+    m_service.reset();
+    const Run notRunning = penwickctl({u"categories"_s});
+    expectError(notRunning, u"Penwick is not running"_s);
+    QCOMPARE(notRunning.err.count(u'\n'), 1);
+}
+
+void TestScriptService::lockedProgramAnswersOnlyAnError()
+{
+    QVERIFY(!m_app->running());
+    const QDBusMessage reply = application().call(u"CategoryNames"_s);
+    QCOMPARE(reply.errorName(), QString(ScriptNames::LockedError));
+    const Run run = penwickctl({u"book"_s, u"--amount"_s, u"5"_s, u"--category"_s, u"0"_s});
+    QVERIFY(run.exitCode != 0);
+    QVERIFY2(run.err.contains(u"locked"_s), qPrintable(run.err));
+    QVERIFY(!QFileInfo::exists(m_app->ledger()->filePathForYear(QDate::currentDate().year(),
+                                                                 QDate::currentDate().month())));
+}
+
+QTEST_MAIN(TestScriptService)
+#include "tst_scriptservice.moc"
