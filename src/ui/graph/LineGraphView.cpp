@@ -64,7 +64,8 @@ void LineGraphView::drawChart(QPainter &painter)
     painter.drawLine(QPointF(kLeft, 0), QPointF(kLeft, h - kEdge));
 
     const QString monthFormat =
-        localizedFormat("LineGraph MonthLabel Format", QStringLiteral("%1"));
+        localizedFormat(QT_TRANSLATE_NOOP("Localizable", "LineGraph MonthLabel Format"),
+                        QStringLiteral("%1"));
     QList<QPainterPath> monthLabels;
     for (int m = 1; m <= 12; ++m) {
         const QRectF rect((m - 0.5) * monthWidth + kLeft - kEdge - 8.0, 0, 16.0, 55.0);

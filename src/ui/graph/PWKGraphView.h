@@ -67,9 +67,10 @@ public:
     // Black or white, whichever reads better on the colour.
     static QColor labelColorOn(const QColor &background);
     static QFont labelFont();
-    // The format of the application's string table under `key`, or the
-    // English one while the table has no text for it: a format key drawn as
-    // it stands would fill the chart with its own name.
+    // The format of the application's string table ("Localizable") under
+    // `key`, or the English one while the table has no text for it: a format
+    // key drawn as it stands would fill the chart with its own name. Callers
+    // mark the key with QT_TRANSLATE_NOOP so that it is collected.
     static QString localizedFormat(const char *key, const QString &english);
 
 signals:
