@@ -17,7 +17,7 @@ class QPainter;
 // which one is highlighted, and the hit-test paths of what was last drawn.
 //
 // Charts draw in their own coordinates, whose y axis points up unless the
-// chart is flipped; designTransform() is the one place where they become the
+// chart is flipped; chartTransform() is the one place where they become the
 // widget's. Hit-test paths are kept in chart coordinates, in a fixed index
 // order: first one per category (an empty path when it is not drawn), then
 // whatever the chart adds. Where paths overlap, the lower index wins.
@@ -85,7 +85,7 @@ signals:
 protected:
     virtual bool isFlipped() const { return false; }
     // Maps chart coordinates to the widget's.
-    QTransform designTransform() const;
+    QTransform chartTransform() const;
 
     // Draws the chart with the painter already in chart coordinates; the
     // hit-test paths are empty when it starts.
