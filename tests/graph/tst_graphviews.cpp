@@ -165,7 +165,12 @@ void TestGraphViews::emptyMonthDrawsNothingAndHitsNothing()
     const QSize size(300, 200);
     setUp(pie, size, {{2008, 1, {}}});
     const QImage image = render(pie);
-    QCOMPARE(countPixels(image, image.rect(), [](QColor c) { return c != Qt::white; }), 0);
+    // Only a gray note says that there is nothing to show.
+    // (Text may be smoothed with faint colour fringes.)
+    const auto gray = [](QColor c) { return c != Qt::white && c.hslSaturation() < 80; };
+    QVERIFY(countPixels(image, image.rect(), gray) > 20);
+    QCOMPARE(countPixels(image, image.rect(), [&](QColor c) { return c != Qt::white && !gray(c); }),
+             0);
     QCOMPARE(pie.categoryForMousePoint(QPoint(150, 100)), -1);
     QCOMPARE(toolTipAt(&pie, QPoint(150, 100)), QString());
 }
@@ -401,7 +406,8 @@ void TestGraphViews::emptyYearShowsAScaleOfOne()
     setUp(lines, QSize(300, 200), ChartData::monthsOfYear(2009));
     render(lines);
     QCOMPARE(lines.axisMaximum(), 1);
-    QCOMPARE(lines.axisLabels(), (QList<qint64>{0, 0, 0, 1}));
+    // Of the labels 0, 0, 0 and 1, those on top of each other are left out.
+    QCOMPARE(lines.axisLabels(), (QList<qint64>{0, 1}));
     // Narrower than twelve months need: the chart keeps its minimum width.
     QCOMPARE(lines.preferredChartSize().width(), 450);
 }

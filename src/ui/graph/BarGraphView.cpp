@@ -76,7 +76,8 @@ void BarGraphView::drawChart(QPainter &painter)
     const int count = categoryCount();
     const double unit = (width() - 2 * kSideMargin) / double(chart.calculateMaxTotal());
     // The year, then the month.
-    const QString format = localizedFormat("BarGraph Label Format", QStringLiteral("%1/%2"));
+    const QString format = localizedFormat(
+        QT_TRANSLATE_NOOP("Localizable", "BarGraph Label Format"), QStringLiteral("%1/%2"));
     const QList<ChartEntry> &entries = chart.entries();
 
     QList<QPainterPath> labelRects;

@@ -30,13 +30,18 @@ void CircleGraphView::drawChart(QPainter &painter)
     const double total = double(chart.calculateTotalOfData(data));
     const QPointF centre(0.5 * width(), 0.5 * height());
     const double radius = 0.5 * std::min(width(), height()) - kMargin;
+    if (total == 0) {
+        // A blank page would look like a fault.
+        drawText(painter, QRectF(0, 0, width(), height()), Qt::AlignCenter | Qt::TextWordWrap,
+                 tr("No spending to show for this month"), QColor(Qt::gray));
+    }
 
     // Angles in degrees, counter-clockwise in y-up coordinates; slices run
     // clockwise, so each ends below where it starts.
     double start = 90.0;
     for (int i = 0; i < categoryCount(); ++i) {
         QPainterPath slice;
-        // With nothing to share out (all sums 0) there is no pie to draw.
+        // With nothing to share out there is no pie to draw.
         if (!chart.isSelected(i) || !data.contains(i) || total == 0) {
             addHitPath(slice);
             continue;

@@ -7,6 +7,7 @@
 #include <QPainterPathStroker>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 constexpr int kMinimumWidth = 450;
@@ -15,6 +16,7 @@ constexpr double kBottom = 60.0; // the month axis
 constexpr double kEdge = 10.0;
 constexpr double kLabelSpacing = 50.0;
 constexpr double kAxisLabelWidth = 45.0;
+constexpr double kMinLabelDistance = 14.0;
 constexpr double kLineWidth = 3.0;
 constexpr double kHighlightedLineWidth = 5.0;
 // A line is hit within a few points of its stroke.
@@ -64,7 +66,8 @@ void LineGraphView::drawChart(QPainter &painter)
     painter.drawLine(QPointF(kLeft, 0), QPointF(kLeft, h - kEdge));
 
     const QString monthFormat =
-        localizedFormat("LineGraph MonthLabel Format", QStringLiteral("%1"));
+        localizedFormat(QT_TRANSLATE_NOOP("Localizable", "LineGraph MonthLabel Format"),
+                        QStringLiteral("%1"));
     QList<QPainterPath> monthLabels;
     for (int m = 1; m <= 12; ++m) {
         const QRectF rect((m - 0.5) * monthWidth + kLeft - kEdge - 8.0, 0, 16.0, 55.0);
@@ -77,7 +80,19 @@ void LineGraphView::drawChart(QPainter &painter)
 
     const qint64 max = roundUpMax(chartData().maxAmountOfCategories(categoryCount()));
     m_axisMaximum = max;
-    m_axisLabels = amountAxisValues(max, int(h / kLabelSpacing));
+    // Rounding can bring labels close together, or make several of them 0
+    // in a quiet year: from the top down, a label too near the one above it
+    // is left out.
+    m_axisLabels.clear();
+    double above = std::numeric_limits<double>::max();
+    const QList<qint64> values = amountAxisValues(max, int(h / kLabelSpacing));
+    for (auto it = values.crbegin(); it != values.crend(); ++it) {
+        const double y = graphHeight / double(max) * double(*it) + kBottom;
+        if (above - y < kMinLabelDistance)
+            continue;
+        m_axisLabels.prepend(*it);
+        above = y;
+    }
     // Large amounts take a smaller font rather than run off the left edge.
     QFont axisFont = font();
     double widest = 0;

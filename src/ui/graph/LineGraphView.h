@@ -20,8 +20,8 @@ public:
     QSize preferredChartSize() const override;
     QString tooltipForItem(int index) const override;
 
-    // The amount axis of the last draw: the top of the scale and the label
-    // values from the bottom up.
+    // The amount axis of the last draw: the top of the scale and the values
+    // of the labels shown, from the bottom up.
     qint64 axisMaximum() const { return m_axisMaximum; }
     const QList<qint64> &axisLabels() const { return m_axisLabels; }
 

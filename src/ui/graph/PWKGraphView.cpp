@@ -89,7 +89,7 @@ void PWKGraphView::fitToPreferredSize()
     resize(preferredChartSize());
 }
 
-QTransform PWKGraphView::designTransform() const
+QTransform PWKGraphView::chartTransform() const
 {
     if (isFlipped())
         return {};
@@ -98,7 +98,7 @@ QTransform PWKGraphView::designTransform() const
 
 int PWKGraphView::categoryForMousePoint(const QPointF &point) const
 {
-    const QPointF local = designTransform().inverted().map(point);
+    const QPointF local = chartTransform().inverted().map(point);
     for (int i = 0; i < m_graphBeziers.size(); ++i) {
         if (m_graphBeziers.at(i).contains(local))
             return i;
@@ -113,11 +113,11 @@ QString PWKGraphView::tooltipForItem(int index) const
 
 QFont PWKGraphView::labelFont()
 {
-    // The labels were designed around a rounded Japanese sans face; where it
-    // is missing the system's own sans face takes its place.
-    const QString designed = QStringLiteral("Osaka");
-    QFont font = QFontDatabase::hasFamily(designed)
-        ? QFont(designed)
+    // The labels' own face where it is installed, else the system's sans
+    // face; either way 14 pixels, which the label geometry is built on.
+    const QString preferred = QStringLiteral("Osaka");
+    QFont font = QFontDatabase::hasFamily(preferred)
+        ? QFont(preferred)
         : QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(14);
@@ -177,13 +177,13 @@ QString PWKGraphView::categoryName(int category) const
 void PWKGraphView::drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text,
                             const QColor &color) const
 {
-    const QTransform toDesign = painter.transform();
-    const QRectF onWidget = designTransform().mapRect(rect);
+    const QTransform toChart = painter.transform();
+    const QRectF onWidget = chartTransform().mapRect(rect);
     // Back to the widget's own coordinates, where text reads upright.
-    painter.setTransform(designTransform().inverted() * toDesign);
+    painter.setTransform(chartTransform().inverted() * toChart);
     painter.setPen(color);
     painter.drawText(onWidget, flags, text);
-    painter.setTransform(toDesign);
+    painter.setTransform(toChart);
 }
 
 void PWKGraphView::paintEvent(QPaintEvent *)
@@ -193,7 +193,7 @@ void PWKGraphView::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), Qt::white);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::TextAntialiasing);
-    painter.setTransform(designTransform(), true);
+    painter.setTransform(chartTransform(), true);
     m_graphBeziers.clear();
     drawChart(painter);
 }
@@ -210,7 +210,7 @@ bool PWKGraphView::event(QEvent *event)
         } else {
             // The tip stays while the pointer is over the same item.
             const QRect area =
-                designTransform().mapRect(m_graphBeziers.at(index).boundingRect()).toAlignedRect();
+                chartTransform().mapRect(m_graphBeziers.at(index).boundingRect()).toAlignedRect();
             QToolTip::showText(help->globalPos(), tip, this, area);
         }
         return true;

@@ -17,7 +17,7 @@ class QPainter;
 // which one is highlighted, and the hit-test paths of what was last drawn.
 //
 // Charts draw in their own coordinates, whose y axis points up unless the
-// chart is flipped; designTransform() is the one place where they become the
+// chart is flipped; chartTransform() is the one place where they become the
 // widget's. Hit-test paths are kept in chart coordinates, in a fixed index
 // order: first one per category (an empty path when it is not drawn), then
 // whatever the chart adds. Where paths overlap, the lower index wins.
@@ -67,9 +67,10 @@ public:
     // Black or white, whichever reads better on the colour.
     static QColor labelColorOn(const QColor &background);
     static QFont labelFont();
-    // The format of the application's string table under `key`, or the
-    // English one while the table has no text for it: a format key drawn as
-    // it stands would fill the chart with its own name.
+    // The format of the application's string table ("Localizable") under
+    // `key`, or the English one while the table has no text for it: a format
+    // key drawn as it stands would fill the chart with its own name. Callers
+    // mark the key with QT_TRANSLATE_NOOP so that it is collected.
     static QString localizedFormat(const char *key, const QString &english);
 
 signals:
@@ -84,7 +85,7 @@ signals:
 protected:
     virtual bool isFlipped() const { return false; }
     // Maps chart coordinates to the widget's.
-    QTransform designTransform() const;
+    QTransform chartTransform() const;
 
     // Draws the chart with the painter already in chart coordinates; the
     // hit-test paths are empty when it starts.
