@@ -463,6 +463,7 @@ void TestListWinController::opensOnTheClosingDayMonth()
     const auto late = entry(2006, 4, 20, u"late april"_s);
     m_controller->addData({late, entry(2006, 5, 2, u"may"_s)});
     QCOMPARE(column(Details), (QStringList{u"late april"_s, u"may"_s}));
+    QCOMPARE(column(Date), (QStringList{u"4/20"_s, u"2"_s}));
     QTest::keyClicks(child<QLineEdit>(m_window.get(), u"detailsSearchTF"_s), u"april"_s);
     late->setAmount(70);
     QCOMPARE(column(Details), QStringList{u"late april"_s});
