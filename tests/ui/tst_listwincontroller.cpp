@@ -191,6 +191,12 @@ void TestListWinController::stepsAcrossTheYearBoundary()
     // The month already shown posts nothing.
     m_window->showListOfYear(2006, 12);
     QCOMPARE(changed.size(), 2);
+
+    // The first month the fields hold is as far back as it goes.
+    m_window->showListOfYear(1970, 1);
+    child<QSpinBox>(m_window.get(), u"monthTF"_s)->stepDown();
+    QCOMPARE(m_window->year(), 1970);
+    QCOMPARE(m_window->month(), 1);
 }
 
 void TestListWinController::editsAnAmountTypedWithSeparators()

@@ -449,13 +449,14 @@ void ListWinController::moveMonth(int months)
 
 void ListWinController::monthFieldChanged(int month)
 {
-    // Stepping past either end carries into the next or previous year.
-    if (month == 13)
-        showListOfYear(year() + 1, 1);
-    else if (month == 0)
-        showListOfYear(year() - 1, 12);
-    else
-        changeDataList();
+    // Stepping past either end carries into the next or previous year (but
+    // not past the years the fields hold).
+    if (month == 13 || month == 0) {
+        setFields(year(), month == 13 ? 12 : 1);
+        moveMonth(month == 13 ? 1 : -1);
+        return;
+    }
+    changeDataList();
 }
 
 void ListWinController::changeDataList()
