@@ -192,6 +192,18 @@ void ListWinController::buildWindow()
     m_splitView->setSizes({600, 150});
     layout->addWidget(m_splitView, 1);
     setCentralWidget(central);
+
+    // Tab walks the controls in the order they are seen.
+    QWidget *previous = nullptr;
+    for (const char *name : {"previousButton", "yearTF", "monthTF", "nextButton", "editButton",
+                             "addButton", "deleteButton", "dateSearchTF", "detailsSearchTF",
+                             "amountMinSearchTF", "amountMaxSearchTF", "categorySearchPp",
+                             "paywaySearchPp", "clearSearchButton", "listTable", "summaryText"}) {
+        QWidget *widget = central->findChild<QWidget *>(QLatin1StringView(name));
+        if (previous)
+            setTabOrder(previous, widget);
+        previous = widget;
+    }
 }
 
 QWidget *ListWinController::buildMonthBar()
