@@ -191,6 +191,12 @@ void TestListWinController::stepsAcrossTheYearBoundary()
     // The month already shown posts nothing.
     m_window->showListOfYear(2006, 12);
     QCOMPARE(changed.size(), 2);
+
+    // The first month the fields hold is as far back as it goes.
+    m_window->showListOfYear(1970, 1);
+    child<QSpinBox>(m_window.get(), u"monthTF"_s)->stepDown();
+    QCOMPARE(m_window->year(), 1970);
+    QCOMPARE(m_window->month(), 1);
 }
 
 void TestListWinController::editsAnAmountTypedWithSeparators()
@@ -463,6 +469,7 @@ void TestListWinController::opensOnTheClosingDayMonth()
     const auto late = entry(2006, 4, 20, u"late april"_s);
     m_controller->addData({late, entry(2006, 5, 2, u"may"_s)});
     QCOMPARE(column(Details), (QStringList{u"late april"_s, u"may"_s}));
+    QCOMPARE(column(Date), (QStringList{u"4/20"_s, u"2"_s}));
     QTest::keyClicks(child<QLineEdit>(m_window.get(), u"detailsSearchTF"_s), u"april"_s);
     late->setAmount(70);
     QCOMPARE(column(Details), QStringList{u"late april"_s});

@@ -139,6 +139,11 @@ QVariant DataListTableModel::data(const QModelIndex &index, int role) const
             return formatAmount(record->amount());
         case DetailsColumn:
             return record->details();
+        case DateColumn:
+            // A closing-day month begins in the calendar month before: say so.
+            if (record->month() != m_list->month())
+                return tr("%1/%2", "month/day").arg(record->month()).arg(record->date());
+            return record->date();
         default:
             return record->dataForKey(keyOfColumn(column));
         }

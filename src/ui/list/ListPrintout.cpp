@@ -10,10 +10,11 @@
 #include <QTextTable>
 
 ListPrintout::ListPrintout(const QAbstractItemModel &model, const QList<int> &columns,
-                           const QString &heading, const Totals &totals)
+                           const QString &heading, const QString &note, const Totals &totals)
     : m_model(model)
     , m_columns(columns)
     , m_heading(heading)
+    , m_note(note)
     , m_totals(totals)
 {
 }
@@ -47,6 +48,10 @@ std::unique_ptr<QTextDocument> ListPrintout::document() const
     cursor.insertText(m_heading, headingFormat);
 
     QTextCharFormat plain;
+    if (!m_note.isEmpty()) {
+        cursor.insertBlock();
+        cursor.insertText(m_note, plain);
+    }
     QTextCharFormat bold;
     bold.setFontWeight(QFont::Bold);
 
@@ -71,7 +76,7 @@ std::unique_ptr<QTextDocument> ListPrintout::document() const
     tableFormat.setBorderCollapse(true);
     tableFormat.setBorder(0.5);
     tableFormat.setBorderBrush(QBrush(Qt::gray));
-    tableFormat.setCellPadding(3);
+    tableFormat.setCellPadding(4);
     tableFormat.setTopMargin(10);
     QTextTable *table = cursor.insertTable(rows + 1, int(m_columns.size()), tableFormat);
 

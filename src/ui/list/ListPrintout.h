@@ -19,8 +19,9 @@ public:
     // The labelled totals are printed as given, in order.
     using Totals = QList<QPair<QString, QString>>;
 
+    // The note, when there is one, goes under the heading.
     ListPrintout(const QAbstractItemModel &model, const QList<int> &columns, const QString &heading,
-                 const Totals &totals);
+                 const QString &note, const Totals &totals);
 
     void print(QPagedPaintDevice *device) const;
     // The document printed, laid out for no page in particular.
@@ -30,5 +31,6 @@ private:
     const QAbstractItemModel &m_model;
     QList<int> m_columns;
     QString m_heading;
+    QString m_note;
     Totals m_totals;
 };

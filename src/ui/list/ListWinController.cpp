@@ -165,7 +165,7 @@ void ListWinController::buildWindow()
     const int digit = m_listTable->fontMetrics().horizontalAdvance(u'0');
     header->resizeSection(DataListTableModel::YearColumn, digit * 8);
     header->resizeSection(DataListTableModel::MonthColumn, digit * 8);
-    header->resizeSection(DataListTableModel::DateColumn, digit * 6);
+    header->resizeSection(DataListTableModel::DateColumn, digit * 7);
     header->resizeSection(DataListTableModel::CategoryColumn, digit * 18);
     header->resizeSection(DataListTableModel::AmountColumn, digit * 14);
     header->resizeSection(DataListTableModel::PaywayColumn, digit * 18);
@@ -192,6 +192,18 @@ void ListWinController::buildWindow()
     m_splitView->setSizes({600, 150});
     layout->addWidget(m_splitView, 1);
     setCentralWidget(central);
+
+    // Tab walks the controls in the order they are seen.
+    QWidget *previous = nullptr;
+    for (const char *name : {"previousButton", "yearTF", "monthTF", "nextButton", "editButton",
+                             "addButton", "deleteButton", "dateSearchTF", "detailsSearchTF",
+                             "amountMinSearchTF", "amountMaxSearchTF", "categorySearchPp",
+                             "paywaySearchPp", "clearSearchButton", "listTable", "summaryText"}) {
+        QWidget *widget = central->findChild<QWidget *>(QLatin1StringView(name));
+        if (previous)
+            setTabOrder(previous, widget);
+        previous = widget;
+    }
 }
 
 QWidget *ListWinController::buildMonthBar()
@@ -449,13 +461,14 @@ void ListWinController::moveMonth(int months)
 
 void ListWinController::monthFieldChanged(int month)
 {
-    // Stepping past either end carries into the next or previous year.
-    if (month == 13)
-        showListOfYear(year() + 1, 1);
-    else if (month == 0)
-        showListOfYear(year() - 1, 12);
-    else
-        changeDataList();
+    // Stepping past either end carries into the next or previous year (but
+    // not past the years the fields hold).
+    if (month == 13 || month == 0) {
+        setFields(year(), month == 13 ? 12 : 1);
+        moveMonth(month == 13 ? 1 : -1);
+        return;
+    }
+    changeDataList();
 }
 
 void ListWinController::changeDataList()
@@ -621,7 +634,9 @@ void ListWinController::showSummary()
     m_summaryText->setReadOnly(m_summaryList->isReadOnly());
     m_summaryText->setPlaceholderText(
         m_summaryList->isReadOnly() ? tr("This month's file could not be read.")
-                                    : tr("Notes on %1").arg(heading()));
+                                    : tr("Notes on %1 %2")
+                                          .arg(QLocale().standaloneMonthName(month()))
+                                          .arg(year()));
 }
 
 void ListWinController::editSummary()
@@ -814,17 +829,37 @@ QList<int> ListWinController::visibleColumns() const
     return columns;
 }
 
+QString ListWinController::searchDescription() const
+{
+    QStringList parts;
+    if (!m_dateSearchTF->text().isEmpty())
+        parts.append(tr("days %1").arg(m_dateSearchTF->text()));
+    if (!m_detailsSearchTF->text().isEmpty())
+        parts.append(tr("words %1").arg(m_detailsSearchTF->text()));
+    if (amountBound(m_amountMinSearchTF) != 0)
+        parts.append(tr("from %1").arg(m_amountMinSearchTF->text()));
+    if (amountBound(m_amountMaxSearchTF) != 0)
+        parts.append(tr("up to %1").arg(m_amountMaxSearchTF->text()));
+    for (const CheckPopUpButton *button : {m_categorySearchPp, m_paywaySearchPp}) {
+        if (button->menuIsChecked())
+            parts.append(button->checkedItemTitles().join(QStringLiteral(", ")));
+    }
+    return parts.join(QStringLiteral("; "));
+}
+
 void ListWinController::printList(QPagedPaintDevice *device) const
 {
     ListPrintout::Totals totals{{tr("Spending"), m_expendTotalTF->text()},
                                 {tr("Income"), m_incomeTotalTF->text()},
                                 {tr("Balance"), m_balanceTF->text()}};
+    QString note;
     if (panelHasKeys()) {
+        note = tr("Entries found by: %1").arg(searchDescription());
         totals.append({tr("Spending of the entries shown"), m_extractedTotalTF->text()});
         totals.append({tr("Share of the month"), m_extractedRateTF->text()});
         totals.append({tr("Balance of the entries shown"), m_extractedBalanceTF->text()});
     }
-    ListPrintout(*m_model, visibleColumns(), heading(), totals).print(device);
+    ListPrintout(*m_model, visibleColumns(), heading(), note, totals).print(device);
 }
 
 void ListWinController::printPenwick()

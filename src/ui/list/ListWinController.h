@@ -124,6 +124,8 @@ private:
     void restoreSelection();
     bool panelHasKeys() const;
     QList<int> visibleColumns() const;
+    // What the panel searches for, in words, for the printout.
+    QString searchDescription() const;
     void printList(QPagedPaintDevice *device) const;
     void saveWindowState();
 

@@ -128,19 +128,25 @@ bool CheckPopUpButton::eventFilter(QObject *watched, QEvent *event)
     return QToolButton::eventFilter(watched, event);
 }
 
-void CheckPopUpButton::updateText()
+QStringList CheckPopUpButton::checkedItemTitles() const
 {
-    QStringList checked;
+    QStringList titles;
     const QList<QAction *> items = listItems();
     for (const QAction *item : items) {
         if (item->isChecked())
-            checked.append(item->text());
+            titles.append(QString(item->text()).replace(QStringLiteral("&&"), QStringLiteral("&")));
     }
+    return titles;
+}
+
+void CheckPopUpButton::updateText()
+{
+    const QStringList checked = checkedItemTitles();
     if (checked.isEmpty())
         setText(tr("%1: All").arg(m_title));
     else if (checked.size() == 1)
-        setText(tr("%1: %2").arg(m_title, checked.constFirst()));
+        setText(tr("%1: %2").arg(m_title, QString(checked.constFirst()).replace(u'&', QStringLiteral("&&"))));
     else
         setText(tr("%1: %n selected", nullptr, int(checked.size())).arg(m_title));
-    setToolTip(checked.join(u", ").replace(QStringLiteral("&&"), QStringLiteral("&")));
+    setToolTip(checked.join(u", "));
 }

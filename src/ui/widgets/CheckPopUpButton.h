@@ -30,6 +30,8 @@ public:
     // Clears all, then checks the items carrying the tags.
     void setStateWithTagArray(const QList<int> &tags);
     bool menuIsChecked() const;
+    // The names of the checked items, in item order.
+    QStringList checkedItemTitles() const;
 
     // The item of a tag, for tests and for callers that check one item.
     QAction *itemWithTag(int tag) const;
