@@ -174,13 +174,31 @@ bool ConversionJournal::begin(const ListConversion &conversion, const QStringLis
 
 bool ConversionJournal::writeMonth(const QString &file, const QByteArray &content, QString *error)
 {
-    return saveFile(sideFilePath(pathOf(file)), content, error);
+    // Nothing relies on a side file before commit(), which makes them all
+    // durable at once: one flush of the disk for every month instead of one
+    // for each.
+    QFile side(sideFilePath(pathOf(file)));
+    if (side.open(QIODevice::WriteOnly | QIODevice::Truncate) && side.write(content) == content.size()
+        && side.flush())
+        return true;
+    if (error)
+        *error = tr("%1 could not be written: %2").arg(side.fileName(), side.errorString());
+    return false;
 }
 
 bool ConversionJournal::commit(QString *error)
 {
-    // The side files' names must be on the disk before the journal says they
-    // are all there.
+    // Every side file, and its name, must be on the disk before the journal
+    // says they are all there.
+    for (const QString &name : std::as_const(m_files)) {
+        QFile side(sideFilePath(pathOf(name)));
+        if (!side.open(QIODevice::ReadOnly) || ::fdatasync(side.handle()) != 0) {
+            if (error)
+                *error = tr("%1 could not be written to disk: %2")
+                             .arg(side.fileName(), QString::fromLocal8Bit(std::strerror(errno)));
+            return false;
+        }
+    }
     return syncFolder(m_folder, error) && writeJournal(Phase::Commit, error);
 }
 
