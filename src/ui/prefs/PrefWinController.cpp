@@ -192,6 +192,7 @@ QWidget *PrefWinController::createGeneralTab()
 {
     auto *tab = new QWidget(m_tabs);
     auto *form = new QFormLayout(tab);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
 
     m_dataPath = new QLineEdit(tab);
     m_dataPath->setObjectName(QStringLiteral("dataPathTF"));
@@ -432,10 +433,14 @@ bool PrefWinController::convertAndWriteLists()
     progress.setWindowModality(Qt::ApplicationModal);
     progress.setMinimumDuration(400);
     progress.setAutoClose(false);
+    progress.setRange(0, 100);
+    // Steps come by the hundred per year of data; the bar moves by percents,
+    // which spares most of the repaints.
     const QMetaObject::Connection step = connect(
         m_controller, &KController::conversionProgress, &progress, [&progress](int done, int total) {
-            progress.setMaximum(total);
-            progress.setValue(done);
+            const int percent = int(qint64(done) * 100 / qMax(total, 1));
+            if (percent != progress.value())
+                progress.setValue(percent);
         });
     QString error;
     const bool converted = m_controller->convertStoredData(conversion, &error);
