@@ -79,12 +79,11 @@ PrefWinController::PrefWinController(KController *controller, QWidget *parent)
     m_welcome->hide();
 
     m_tabs->setObjectName(QStringLiteral("tableTab"));
-    m_tabs->addTab(createListTab(m_categoryModel, &m_categoryTable,
+    m_tabs->addTab(createListTab(m_categoryModel,
                                  tr("Drag a category to change the order. Income always comes "
                                     "last and is not edited here.")),
                    tr("&Categories"));
-    QWidget *payways = createListTab(m_paywayModel, &m_paywayTable,
-                                     tr("Drag a payway to change the order."));
+    QWidget *payways = createListTab(m_paywayModel, tr("Drag a payway to change the order."));
     payways->setObjectName(QStringLiteral("Payway"));
     m_tabs->addTab(payways, tr("&Payways"));
     m_tabs->addTab(createGeneralTab(), tr("&General"));
@@ -109,12 +108,10 @@ PrefWinController::PrefWinController(KController *controller, QWidget *parent)
 
 PrefWinController::~PrefWinController() = default;
 
-QWidget *PrefWinController::createListTab(ListEditorModel *model, QTableView **view,
-                                          const QString &hint)
+QWidget *PrefWinController::createListTab(ListEditorModel *model, const QString &hint)
 {
     auto *tab = new QWidget(m_tabs);
     auto *table = new QTableView(tab);
-    *view = table;
     const bool categories = model == m_categoryModel;
     table->setObjectName(categories ? QStringLiteral("categoryTable")
                                     : QStringLiteral("paywayTable"));
