@@ -256,7 +256,8 @@ void PrefWinController::readListFromDefault()
     showDataFolder(folder);
     // The income category, last, is not edited here: it is written back
     // under its name in the current language on OK.
-    QStringList categories = names(ListFile::preferenceDataListForKey(folder, ListFile::CategoryList));
+    QStringList categories =
+        names(ListFile::preferenceDataListForKey(folder, ListFile::CategoryList));
     QList<QByteArray> colors;
     const QVariantList archived = ListFile::preferenceDataListForKey(folder, ListFile::ColorList);
     for (const QVariant &color : archived)
@@ -344,7 +345,8 @@ void PrefWinController::chooseColor(int row)
 
 void PrefWinController::selectFolder()
 {
-    auto *dialog = new QFileDialog(this, tr("Choose the Data Folder"), m_controller->dataFolderPath());
+    auto *dialog =
+        new QFileDialog(this, tr("Choose the Data Folder"), m_controller->dataFolderPath());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
@@ -433,12 +435,13 @@ bool PrefWinController::convertAndWriteLists()
     progress.setRange(0, 100);
     // Steps come by the hundred per year of data; the bar moves by percents,
     // which spares most of the repaints.
-    const QMetaObject::Connection step = connect(
-        m_controller, &KController::conversionProgress, &progress, [&progress](int done, int total) {
-            const int percent = int(qint64(done) * 100 / qMax(total, 1));
-            if (percent != progress.value())
-                progress.setValue(percent);
-        });
+    const auto showStep = [&progress](int done, int total) {
+        const int percent = int(qint64(done) * 100 / qMax(total, 1));
+        if (percent != progress.value())
+            progress.setValue(percent);
+    };
+    const QMetaObject::Connection step =
+        connect(m_controller, &KController::conversionProgress, &progress, showStep);
     QString error;
     const bool converted = m_controller->convertStoredData(conversion, &error);
     disconnect(step);
