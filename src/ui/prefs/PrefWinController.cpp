@@ -212,7 +212,7 @@ QWidget *PrefWinController::createGeneralTab()
     }
     form->addRow(tr("Open at start:"), windowColumn);
 
-    m_setLastDate = new QCheckBox(tr("&Close each month on day"), tab);
+    m_setLastDate = new QCheckBox(tr("Close each &month on day"), tab);
     m_setLastDate->setObjectName(QStringLiteral("setLastDateCB"));
     m_lastDate = new QSpinBox(tab);
     m_lastDate->setObjectName(QStringLiteral("lastDateTF"));
@@ -230,9 +230,9 @@ QWidget *PrefWinController::createGeneralTab()
     m_returnInput->addItem(tr("Presses OK"), int(ReturnPressesOK));
     m_returnInput->addItem(tr("Presses Input"), int(ReturnPressesInput));
     m_returnInput->addItem(tr("Does nothing"), int(ReturnPressesNothing));
-    form->addRow(tr("&Return key in the input window:"), m_returnInput);
+    form->addRow(tr("Return &key in the input window:"), m_returnInput);
 
-    auto *password = new QPushButton(tr("Change &Password…"), tab);
+    auto *password = new QPushButton(tr("Change Pass&word…"), tab);
     password->setObjectName(QStringLiteral("setPassword"));
     connect(password, &QPushButton::clicked, this, &PrefWinController::setPassword);
     m_passwordState = new QLabel(tab);
