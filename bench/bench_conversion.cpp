@@ -39,7 +39,10 @@ void BM_RenumberOneCategoryThirtyYears(benchmark::State &state)
     state.counters["entries"] = kYears * 12 * kPerMonth;
     state.counters["files"] = kYears * 12;
 }
-BENCHMARK(BM_RenumberOneCategoryThirtyYears)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
+BENCHMARK(BM_RenumberOneCategoryThirtyYears)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->Iterations(3);
 
 // The same conversion again and again in one folder, as a user who changes
 // the categories several times in a minute makes it.
@@ -55,7 +58,10 @@ void BM_RenumberRepeatedlyInOneFolder(benchmark::State &state)
             state.SkipWithError("the conversion was refused");
     }
 }
-BENCHMARK(BM_RenumberRepeatedlyInOneFolder)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
+BENCHMARK(BM_RenumberRepeatedlyInOneFolder)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->Iterations(3);
 
 } // namespace
 

@@ -55,7 +55,8 @@ void TestListEditor::conversionMaps_data()
     QTest::newRow("no edit") << six << QStringList() << true << six << ConversionMap();
     QTest::newRow("move 3 to 2 keeps 5")
         << six << QStringList{u"move 3 2"_s} << true
-        << QStringList{u"A"_s, u"B"_s, u"D"_s, u"C"_s, u"E"_s, u"F"_s} << ConversionMap{{3, 2}, {2, 3}};
+        << QStringList{u"A"_s, u"B"_s, u"D"_s, u"C"_s, u"E"_s, u"F"_s}
+        << ConversionMap{{3, 2}, {2, 3}};
     QTest::newRow("move first below the last")
         << six << QStringList{u"move 0 6"_s} << true
         << QStringList{u"B"_s, u"C"_s, u"D"_s, u"E"_s, u"F"_s, u"A"_s}

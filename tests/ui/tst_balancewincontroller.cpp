@@ -22,7 +22,8 @@ namespace {
 
 constexpr int kIncome = 2; // Food, Rent, Income
 
-void writeMonth(const QString &folder, int year, int month, const QList<std::pair<int, float>> &entries)
+void writeMonth(const QString &folder, int year, int month,
+                const QList<std::pair<int, float>> &entries)
 {
     MonthDataList list(year, month);
     PaymentArray records;
@@ -111,12 +112,14 @@ void TestBalanceWinController::figuresOfAKnownFolder()
 
     QCOMPARE(figures(window, 1),
              (QStringList{u"2007. 12"_s, amount(1250.25, 2), amount(3000), amount(1749.75, 2)}));
-    QCOMPARE(figures(window, 2), (QStringList{u"2007. 11"_s, amount(4000), amount(1000), amount(-3000)}));
+    QCOMPARE(figures(window, 2),
+             (QStringList{u"2007. 11"_s, amount(4000), amount(1000), amount(-3000)}));
     QCOMPARE(figures(window, 3), (QStringList{u"2007. 10"_s, u"0"_s, u"0"_s, u"0"_s}));
     QCOMPARE(figures(window, 12), (QStringList{u"2007. 1"_s, u"0"_s, amount(10), amount(10)}));
     // A deficit stands out.
     auto *deficit = window.findChild<QGroupBox *>(u"box2"_s)->findChild<QLabel *>(u"balance"_s);
-    QVERIFY(deficit->palette().color(QPalette::WindowText) != window.palette().color(QPalette::WindowText));
+    QVERIFY(deficit->palette().color(QPalette::WindowText)
+            != window.palette().color(QPalette::WindowText));
 
     // Next month in December: the column ends with the current month.
     window.showDataOfYear(2007, 13);
@@ -130,8 +133,10 @@ void TestBalanceWinController::followsChangesOfTheMonthsShown()
     controller.readListPreference();
     BalanceWinController window(&controller);
     window.showDataOfYear(2008, 1);
-    QVERIFY(controller.addData({std::make_shared<PaymentData>(2007, 12, 24, kIncome, u"Bonus"_s, 500.f, 0)}));
-    QCOMPARE(figures(window, 1).mid(1), (QStringList{amount(1250.25, 2), amount(3500), amount(2249.75, 2)}));
+    QVERIFY(controller.addData(
+        {std::make_shared<PaymentData>(2007, 12, 24, kIncome, u"Bonus"_s, 500.f, 0)}));
+    QCOMPARE(figures(window, 1).mid(1),
+             (QStringList{amount(1250.25, 2), amount(3500), amount(2249.75, 2)}));
 }
 
 QTEST_MAIN(TestBalanceWinController)

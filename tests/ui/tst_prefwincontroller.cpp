@@ -56,12 +56,14 @@ QStringList storedNames(const QString &folder, QLatin1StringView key)
 // The categories of a month file's entries, in the order of their details.
 QList<int> storedCategories(const QString &folder, int year, int month)
 {
-    auto list = MonthFile::decode(readBytes(DataFolder::filePathForYear(folder, year, month)), nullptr);
+    auto list =
+        MonthFile::decode(readBytes(DataFolder::filePathForYear(folder, year, month)), nullptr);
     if (!list)
         return {};
     PaymentArray records = list->dataListArray();
-    std::sort(records.begin(), records.end(),
-              [](const PaymentDataPtr &a, const PaymentDataPtr &b) { return a->details() < b->details(); });
+    std::sort(records.begin(), records.end(), [](const PaymentDataPtr &a, const PaymentDataPtr &b) {
+        return a->details() < b->details();
+    });
     QList<int> categories;
     for (const PaymentDataPtr &r : records)
         categories.append(r->category());
@@ -106,9 +108,10 @@ void TestPrefWinController::init()
     QVariantList colors;
     for (const QByteArray &color : ColorArchive::initialColors(int(kCategories.size())))
         colors.append(color);
-    QVERIFY(ListFile::setPreferenceDataLists(m_folder, {{ListFile::CategoryList, variants(kCategories)},
-                                                       {ListFile::ColorList, colors},
-                                                       {ListFile::PaywayList, variants(kPayways)}}));
+    QVERIFY(
+        ListFile::setPreferenceDataLists(m_folder, {{ListFile::CategoryList, variants(kCategories)},
+                                                    {ListFile::ColorList, colors},
+                                                    {ListFile::PaywayList, variants(kPayways)}}));
     // One entry of each category, named after it; the payway is the same.
     MonthDataList may(2006, 5);
     PaymentArray records;
@@ -272,8 +275,9 @@ void TestPrefWinController::okWritesTheSettingsAndAnnouncesThem()
     // Income is written last, in the current language and gray, whatever it
     // was before.
     QCOMPARE(storedNames(m_folder, ListFile::CategoryList).constLast(), u"Income"_s);
-    QCOMPARE(ListFile::preferenceDataListForKey(m_folder, ListFile::ColorList).constLast().toByteArray(),
-             ColorArchive::encodeWhite(0.5f));
+    QCOMPARE(
+        ListFile::preferenceDataListForKey(m_folder, ListFile::ColorList).constLast().toByteArray(),
+        ColorArchive::encodeWhite(0.5f));
 
     // Unchanged closing day: nothing to announce.
     m_window->show();
@@ -312,8 +316,10 @@ void TestPrefWinController::changingTheDataFolderSavesFirst()
     QCOMPARE(announced.size(), 1);
     QCOMPARE(Settings().dataPath(), other);
     QCOMPARE(m_controller->dataFolderPath(), other);
-    QCOMPARE(child<QLineEdit>(m_window.get(), u"dataPathTF"_s)->text(), QDir::toNativeSeparators(other));
-    auto saved = MonthFile::decode(readBytes(DataFolder::filePathForYear(m_folder, 2006, 5)), nullptr);
+    QCOMPARE(child<QLineEdit>(m_window.get(), u"dataPathTF"_s)->text(),
+             QDir::toNativeSeparators(other));
+    auto saved =
+        MonthFile::decode(readBytes(DataFolder::filePathForYear(m_folder, 2006, 5)), nullptr);
     QVERIFY(detailsOf(saved->dataListArray()).contains(u"Changed, not saved yet"_s));
     // The new folder's own lists: the initial ones.
     QVERIFY(QFile::exists(ListFile::dictionaryPathString(other)));

@@ -68,7 +68,8 @@ QJsonObject listsToJson(const QVariantMap &lists)
         const QVariantList list = it.value().toList();
         for (const QVariant &value : list) {
             if (value.typeId() == QMetaType::QByteArray)
-                values.append(QJsonObject{{u"data"_s, QString::fromLatin1(value.toByteArray().toBase64())}});
+                values.append(
+                    QJsonObject{{u"data"_s, QString::fromLatin1(value.toByteArray().toBase64())}});
             else
                 values.append(value.toString());
         }
@@ -131,7 +132,7 @@ bool ConversionJournal::read(QString *error)
     const QString phase = document[u"phase"_s].toString();
     if (phase != "prepare"_L1 && phase != "commit"_L1) {
         if (error)
-            *error = ConversionJournal::tr("The record of an unfinished change of the lists, %1, cannot be read.")
+            *error = tr("The record of an unfinished change of the lists, %1, cannot be read.")
                          .arg(file.fileName());
         return false;
     }
@@ -174,13 +175,31 @@ bool ConversionJournal::begin(const ListConversion &conversion, const QStringLis
 
 bool ConversionJournal::writeMonth(const QString &file, const QByteArray &content, QString *error)
 {
-    return saveFile(sideFilePath(pathOf(file)), content, error);
+    // Nothing relies on a side file before commit(), which makes them all
+    // durable at once: one flush of the disk for every month instead of one
+    // for each.
+    QFile side(sideFilePath(pathOf(file)));
+    if (side.open(QIODevice::WriteOnly | QIODevice::Truncate)
+        && side.write(content) == content.size() && side.flush())
+        return true;
+    if (error)
+        *error = tr("%1 could not be written: %2").arg(side.fileName(), side.errorString());
+    return false;
 }
 
 bool ConversionJournal::commit(QString *error)
 {
-    // The side files' names must be on the disk before the journal says they
-    // are all there.
+    // Every side file, and its name, must be on the disk before the journal
+    // says they are all there.
+    for (const QString &name : std::as_const(m_files)) {
+        QFile side(sideFilePath(pathOf(name)));
+        if (!side.open(QIODevice::ReadOnly) || ::fdatasync(side.handle()) != 0) {
+            if (error)
+                *error = tr("%1 could not be written to disk: %2")
+                             .arg(side.fileName(), QString::fromLocal8Bit(std::strerror(errno)));
+            return false;
+        }
+    }
     return syncFolder(m_folder, error) && writeJournal(Phase::Commit, error);
 }
 
@@ -192,10 +211,11 @@ bool ConversionJournal::finish(const std::function<void(int)> &replaced, QString
         const QString side = sideFilePath(target);
         // A side file that is gone has replaced its month already.
         if (QFile::exists(side)
-            && std::rename(QFile::encodeName(side).constData(), QFile::encodeName(target).constData())
-                != 0) {
+            && std::rename(QFile::encodeName(side).constData(),
+                           QFile::encodeName(target).constData())
+                   != 0) {
             if (error)
-                *error = ConversionJournal::tr("%1 could not be replaced: %2")
+                *error = tr("%1 could not be replaced: %2")
                              .arg(target, QString::fromLocal8Bit(std::strerror(errno)));
             return false;
         }
@@ -207,7 +227,7 @@ bool ConversionJournal::finish(const std::function<void(int)> &replaced, QString
     if (!m_conversion.lists.isEmpty()
         && !ListFile::setPreferenceDataLists(m_folder, m_conversion.lists)) {
         if (error)
-            *error = ConversionJournal::tr("The list file %1 could not be written.")
+            *error = tr("The list file %1 could not be written.")
                          .arg(ListFile::dictionaryPathString(m_folder));
         return false;
     }

@@ -25,8 +25,8 @@
 // files away and the change can be run again from the journal. Found in phase
 // "commit", finish() is run again; it renames only the side files still
 // there, so every month is either old with its new content waiting beside it,
-// or new. Nothing is flushed lazily: each step is on the disk, folder entry
-// included, before the next one starts.
+// or new. Every step is on the disk, folder entries included, before the
+// journal records the next; the side files are flushed together, at commit().
 class ConversionJournal
 {
     Q_DECLARE_TR_FUNCTIONS(ConversionJournal)

@@ -358,7 +358,8 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
 {
     const QString folder = dataFolderPath();
     if (!conversion.renumbers()) {
-        if (!conversion.lists.isEmpty() && !ListFile::setPreferenceDataLists(folder, conversion.lists)) {
+        if (!conversion.lists.isEmpty()
+            && !ListFile::setPreferenceDataLists(folder, conversion.lists)) {
             setError(error, tr("The list file %1 could not be written.")
                                 .arg(ListFile::dictionaryPathString(folder)));
             return false;
@@ -403,7 +404,8 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
     ConversionJournal journal(folder);
     bool decided = journal.begin(conversion, files, error);
     for (int i = 0; decided && i < count; ++i) {
-        decided = journal.writeMonth(files.at(i), encodeConverted(*months.at(i), conversion), error);
+        decided =
+            journal.writeMonth(files.at(i), encodeConverted(*months.at(i), conversion), error);
         if (decided)
             emit conversionProgress(i + 1, total);
     }

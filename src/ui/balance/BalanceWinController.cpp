@@ -79,7 +79,8 @@ BalanceWinController::BalanceWinController(KController *controller, QWidget *par
     layout->addWidget(m_scrollView);
 
     // A narrow column: as wide as a box needs, and a few boxes high.
-    const int width = listView->sizeHint().width() + m_scrollView->verticalScrollBar()->sizeHint().width();
+    const int width =
+        listView->sizeHint().width() + m_scrollView->verticalScrollBar()->sizeHint().width();
     setMinimumWidth(width);
     setMaximumWidth(width * 2);
     resize(width, m_boxes.constFirst().box->sizeHint().height() * 4);

@@ -21,12 +21,14 @@ MergeItemDialog::MergeItemDialog(const QStringList &names, int row, QWidget *par
         this);
     message->setObjectName(QStringLiteral("convertMessageTF"));
     message->setWordWrap(true);
+    message->setMinimumWidth(message->fontMetrics().averageCharWidth() * 50);
     m_targets->setObjectName(QStringLiteral("convertMenuPp"));
     for (int i = 0; i < names.size(); ++i) {
         if (i != row)
             m_targets->addItem(names.at(i), i);
     }
     auto *form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("&Move its entries to:"), m_targets);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setText(tr("&Delete"));
@@ -34,6 +36,7 @@ MergeItemDialog::MergeItemDialog(const QStringList &names, int row, QWidget *par
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(message);
+    layout->addSpacing(message->fontMetrics().height() / 2);
     layout->addLayout(form);
     layout->addWidget(buttons);
 }

@@ -79,12 +79,11 @@ PrefWinController::PrefWinController(KController *controller, QWidget *parent)
     m_welcome->hide();
 
     m_tabs->setObjectName(QStringLiteral("tableTab"));
-    m_tabs->addTab(createListTab(m_categoryModel, &m_categoryTable,
+    m_tabs->addTab(createListTab(m_categoryModel,
                                  tr("Drag a category to change the order. Income always comes "
                                     "last and is not edited here.")),
                    tr("&Categories"));
-    QWidget *payways = createListTab(m_paywayModel, &m_paywayTable,
-                                     tr("Drag a payway to change the order."));
+    QWidget *payways = createListTab(m_paywayModel, tr("Drag a payway to change the order."));
     payways->setObjectName(QStringLiteral("Payway"));
     m_tabs->addTab(payways, tr("&Payways"));
     m_tabs->addTab(createGeneralTab(), tr("&General"));
@@ -109,12 +108,10 @@ PrefWinController::PrefWinController(KController *controller, QWidget *parent)
 
 PrefWinController::~PrefWinController() = default;
 
-QWidget *PrefWinController::createListTab(ListEditorModel *model, QTableView **view,
-                                          const QString &hint)
+QWidget *PrefWinController::createListTab(ListEditorModel *model, const QString &hint)
 {
     auto *tab = new QWidget(m_tabs);
     auto *table = new QTableView(tab);
-    *view = table;
     const bool categories = model == m_categoryModel;
     table->setObjectName(categories ? QStringLiteral("categoryTable")
                                     : QStringLiteral("paywayTable"));
@@ -192,6 +189,7 @@ QWidget *PrefWinController::createGeneralTab()
 {
     auto *tab = new QWidget(m_tabs);
     auto *form = new QFormLayout(tab);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
 
     m_dataPath = new QLineEdit(tab);
     m_dataPath->setObjectName(QStringLiteral("dataPathTF"));
@@ -214,7 +212,7 @@ QWidget *PrefWinController::createGeneralTab()
     }
     form->addRow(tr("Open at start:"), windowColumn);
 
-    m_setLastDate = new QCheckBox(tr("&Close each month on day"), tab);
+    m_setLastDate = new QCheckBox(tr("Close each &month on day"), tab);
     m_setLastDate->setObjectName(QStringLiteral("setLastDateCB"));
     m_lastDate = new QSpinBox(tab);
     m_lastDate->setObjectName(QStringLiteral("lastDateTF"));
@@ -232,9 +230,9 @@ QWidget *PrefWinController::createGeneralTab()
     m_returnInput->addItem(tr("Presses OK"), int(ReturnPressesOK));
     m_returnInput->addItem(tr("Presses Input"), int(ReturnPressesInput));
     m_returnInput->addItem(tr("Does nothing"), int(ReturnPressesNothing));
-    form->addRow(tr("&Return key in the input window:"), m_returnInput);
+    form->addRow(tr("Return &key in the input window:"), m_returnInput);
 
-    auto *password = new QPushButton(tr("Change &Password…"), tab);
+    auto *password = new QPushButton(tr("Change Pass&word…"), tab);
     password->setObjectName(QStringLiteral("setPassword"));
     connect(password, &QPushButton::clicked, this, &PrefWinController::setPassword);
     m_passwordState = new QLabel(tab);
@@ -258,7 +256,8 @@ void PrefWinController::readListFromDefault()
     showDataFolder(folder);
     // The income category, last, is not edited here: it is written back
     // under its name in the current language on OK.
-    QStringList categories = names(ListFile::preferenceDataListForKey(folder, ListFile::CategoryList));
+    QStringList categories =
+        names(ListFile::preferenceDataListForKey(folder, ListFile::CategoryList));
     QList<QByteArray> colors;
     const QVariantList archived = ListFile::preferenceDataListForKey(folder, ListFile::ColorList);
     for (const QVariant &color : archived)
@@ -346,7 +345,8 @@ void PrefWinController::chooseColor(int row)
 
 void PrefWinController::selectFolder()
 {
-    auto *dialog = new QFileDialog(this, tr("Choose the Data Folder"), m_controller->dataFolderPath());
+    auto *dialog =
+        new QFileDialog(this, tr("Choose the Data Folder"), m_controller->dataFolderPath());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
@@ -432,11 +432,16 @@ bool PrefWinController::convertAndWriteLists()
     progress.setWindowModality(Qt::ApplicationModal);
     progress.setMinimumDuration(400);
     progress.setAutoClose(false);
-    const QMetaObject::Connection step = connect(
-        m_controller, &KController::conversionProgress, &progress, [&progress](int done, int total) {
-            progress.setMaximum(total);
-            progress.setValue(done);
-        });
+    progress.setRange(0, 100);
+    // Steps come by the hundred per year of data; the bar moves by percents,
+    // which spares most of the repaints.
+    const auto showStep = [&progress](int done, int total) {
+        const int percent = int(qint64(done) * 100 / qMax(total, 1));
+        if (percent != progress.value())
+            progress.setValue(percent);
+    };
+    const QMetaObject::Connection step =
+        connect(m_controller, &KController::conversionProgress, &progress, showStep);
     QString error;
     const bool converted = m_controller->convertStoredData(conversion, &error);
     disconnect(step);

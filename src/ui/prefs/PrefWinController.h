@@ -55,7 +55,7 @@ protected:
     void done(int result) override;
 
 private:
-    QWidget *createListTab(ListEditorModel *model, QTableView **view, const QString &hint);
+    QWidget *createListTab(ListEditorModel *model, const QString &hint);
     QWidget *createGeneralTab();
     void readListFromDefault();
     void readSettings();
@@ -77,8 +77,6 @@ private:
     QTabWidget *m_tabs;
     ListEditorModel *m_categoryModel;
     ListEditorModel *m_paywayModel;
-    QTableView *m_categoryTable = nullptr;
-    QTableView *m_paywayTable = nullptr;
 
     QLineEdit *m_dataPath;
     QCheckBox *m_openWindow[4];
