@@ -2,6 +2,54 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en">
     <context>
+        <name>BalanceWinController</name>
+        <message>
+            <source>Balance</source>
+            <translation>Balance</translation>
+        </message>
+        <message>
+            <source>Spending</source>
+            <translation>Spending</translation>
+        </message>
+        <message>
+            <source>Income</source>
+            <translation>Income</translation>
+        </message>
+    </context>
+    <context>
+        <name>CheckPopUpButton</name>
+        <message>
+            <source>Select All</source>
+            <translation>Select All</translation>
+        </message>
+        <message>
+            <source>Clear Selection</source>
+            <translation>Clear Selection</translation>
+        </message>
+        <message>
+            <source>%1: All</source>
+            <translation>%1: All</translation>
+        </message>
+        <message>
+            <source>%1: %2</source>
+            <translation>%1: %2</translation>
+        </message>
+        <message numerus="yes">
+            <source>%1: %n selected</source>
+            <translation>
+                <numerusform>%1: %n selected</numerusform>
+                <numerusform>%1: %n selected</numerusform>
+            </translation>
+        </message>
+    </context>
+    <context>
+        <name>CircleGraphView</name>
+        <message>
+            <source>No spending to show for this month</source>
+            <translation>No spending to show for this month</translation>
+        </message>
+    </context>
+    <context>
         <name>ConfirmPassPanelController</name>
         <message>
             <source>Password</source>
@@ -10,6 +58,275 @@
         <message>
             <source>&amp;Password:</source>
             <translation>&amp;Password:</translation>
+        </message>
+    </context>
+    <context>
+        <name>ConversionJournal</name>
+        <message>
+            <source>The folder %1 could not be written to disk: %2</source>
+            <translation>The folder %1 could not be written to disk: %2</translation>
+        </message>
+        <message>
+            <source>%1 could not be written: %2</source>
+            <translation>%1 could not be written: %2</translation>
+        </message>
+        <message>
+            <source>The record of an unfinished change of the lists, %1, cannot be read.</source>
+            <translation>The record of an unfinished change of the lists, %1, cannot be read.</translation>
+        </message>
+        <message>
+            <source>%1 could not be written to disk: %2</source>
+            <translation>%1 could not be written to disk: %2</translation>
+        </message>
+        <message>
+            <source>%1 could not be replaced: %2</source>
+            <translation>%1 could not be replaced: %2</translation>
+        </message>
+        <message>
+            <source>The list file %1 could not be written.</source>
+            <translation>The list file %1 could not be written.</translation>
+        </message>
+    </context>
+    <context>
+        <name>DataListTableModel</name>
+        <message>
+            <source>%1/%2</source>
+            <comment>month/day</comment>
+            <translation>%1/%2</translation>
+        </message>
+        <message>
+            <source>Year</source>
+            <translation>Year</translation>
+        </message>
+        <message>
+            <source>Month</source>
+            <translation>Month</translation>
+        </message>
+        <message>
+            <source>Day</source>
+            <translation>Day</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>Details</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>Amount</translation>
+        </message>
+        <message>
+            <source>Payment method</source>
+            <translation>Payment method</translation>
+        </message>
+    </context>
+    <context>
+        <name>GraphCategoryModel</name>
+        <message>
+            <source>%1 %</source>
+            <translation>%1 %</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>Amount</translation>
+        </message>
+        <message>
+            <source>Share</source>
+            <translation>Share</translation>
+        </message>
+    </context>
+    <context>
+        <name>GraphWinController</name>
+        <message>
+            <source>Charts</source>
+            <translation>Charts</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>&amp;File</translation>
+        </message>
+        <message>
+            <source>&amp;Print…</source>
+            <translation>&amp;Print…</translation>
+        </message>
+        <message>
+            <source>Export as P&amp;DF…</source>
+            <translation>Export as P&amp;DF…</translation>
+        </message>
+        <message>
+            <source>&amp;Close</source>
+            <translation>&amp;Close</translation>
+        </message>
+        <message>
+            <source>Pie chart</source>
+            <translation>Pie chart</translation>
+        </message>
+        <message>
+            <source>Bar chart</source>
+            <translation>Bar chart</translation>
+        </message>
+        <message>
+            <source>Line chart</source>
+            <translation>Line chart</translation>
+        </message>
+        <message>
+            <source>Show one month fewer</source>
+            <translation>Show one month fewer</translation>
+        </message>
+        <message>
+            <source>Show one month more</source>
+            <translation>Show one month more</translation>
+        </message>
+        <message>
+            <source>&amp;Year</source>
+            <translation>&amp;Year</translation>
+        </message>
+        <message>
+            <source>&amp;Month</source>
+            <translation>&amp;Month</translation>
+        </message>
+        <message>
+            <source>Previous month</source>
+            <translation>Previous month</translation>
+        </message>
+        <message>
+            <source>Next month</source>
+            <translation>Next month</translation>
+        </message>
+        <message>
+            <source>Chart %1-%2.pdf</source>
+            <translation>Chart %1-%2.pdf</translation>
+        </message>
+        <message>
+            <source>Export as PDF</source>
+            <translation>Export as PDF</translation>
+        </message>
+        <message>
+            <source>PDF files (*.pdf)</source>
+            <translation>PDF files (*.pdf)</translation>
+        </message>
+        <message>
+            <source>MMMM yyyy</source>
+            <comment>date format of the printed heading</comment>
+            <translation>MMMM yyyy</translation>
+        </message>
+        <message>
+            <source>%1 — %2</source>
+            <comment>printed heading: month, chart</comment>
+            <translation>%1 — %2</translation>
+        </message>
+    </context>
+    <context>
+        <name>InputRow</name>
+        <message>
+            <source>Month, row %1</source>
+            <translation>Month, row %1</translation>
+        </message>
+        <message>
+            <source>Day, row %1</source>
+            <translation>Day, row %1</translation>
+        </message>
+        <message>
+            <source>Category, row %1</source>
+            <translation>Category, row %1</translation>
+        </message>
+        <message>
+            <source>Details, row %1</source>
+            <translation>Details, row %1</translation>
+        </message>
+        <message>
+            <source>Amount, row %1</source>
+            <translation>Amount, row %1</translation>
+        </message>
+        <message>
+            <source>An amount, or a sum such as 1,200+350 or 3*450.</source>
+            <translation>An amount, or a sum such as 1,200+350 or 3*450.</translation>
+        </message>
+        <message>
+            <source>Payway, row %1</source>
+            <translation>Payway, row %1</translation>
+        </message>
+    </context>
+    <context>
+        <name>InputWinController</name>
+        <message>
+            <source>Book Entries</source>
+            <translation>Book Entries</translation>
+        </message>
+        <message>
+            <source>&amp;Date:</source>
+            <translation>&amp;Date:</translation>
+        </message>
+        <message>
+            <source>Year</source>
+            <translation>Year</translation>
+        </message>
+        <message>
+            <source>Month</source>
+            <translation>Month</translation>
+        </message>
+        <message>
+            <source>Day</source>
+            <translation>Day</translation>
+        </message>
+        <message>
+            <source>Previous day</source>
+            <translation>Previous day</translation>
+        </message>
+        <message>
+            <source>Next day</source>
+            <translation>Next day</translation>
+        </message>
+        <message>
+            <source>Date</source>
+            <translation>Date</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>Details</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>Amount</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>Payway</translation>
+        </message>
+        <message>
+            <source>Spending total:</source>
+            <translation>Spending total:</translation>
+        </message>
+        <message>
+            <source>Spending total</source>
+            <translation>Spending total</translation>
+        </message>
+        <message>
+            <source>&amp;Add Row</source>
+            <translation>&amp;Add Row</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancel</translation>
+        </message>
+        <message>
+            <source>Book and Show &amp;List</source>
+            <translation>Book and Show &amp;List</translation>
+        </message>
+        <message>
+            <source>&amp;Book</source>
+            <translation>&amp;Book</translation>
         </message>
     </context>
     <context>
@@ -70,6 +387,26 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
             <source>&lt;h3&gt;Penwick %1&lt;/h3&gt;&lt;p&gt;A household account book.&lt;/p&gt;&lt;p&gt;Your entries are kept month by month in the data folder:&lt;br&gt;%2&lt;/p&gt;</source>
             <translation>&lt;h3&gt;Penwick %1&lt;/h3&gt;&lt;p&gt;A household account book.&lt;/p&gt;&lt;p&gt;Your entries are kept month by month in the data folder:&lt;br&gt;%2&lt;/p&gt;</translation>
         </message>
+        <message>
+            <source>&amp;Input Window</source>
+            <translation>&amp;Input Window</translation>
+        </message>
+        <message>
+            <source>&amp;List Window</source>
+            <translation>&amp;List Window</translation>
+        </message>
+        <message>
+            <source>&amp;Graph Window</source>
+            <translation>&amp;Graph Window</translation>
+        </message>
+        <message>
+            <source>&amp;Balance Window</source>
+            <translation>&amp;Balance Window</translation>
+        </message>
+        <message>
+            <source>&amp;Preferences…</source>
+            <translation>&amp;Preferences…</translation>
+        </message>
     </context>
     <context>
         <name>KController</name>
@@ -89,12 +426,391 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
             <source>The file of this month could not be read, so no entry can be moved into it.</source>
             <translation>The file of this month could not be read, so no entry can be moved into it.</translation>
         </message>
+        <message>
+            <source>An earlier change of the lists has not been finished yet.</source>
+            <translation>An earlier change of the lists has not been finished yet.</translation>
+        </message>
+        <message>
+            <source>The list file %1 could not be written.</source>
+            <translation>The list file %1 could not be written.</translation>
+        </message>
+        <message>
+            <source>The entries of %1 cannot be read, so none of the stored entries has been renumbered and the lists are unchanged. Mend or remove the file %2 first.</source>
+            <translation>The entries of %1 cannot be read, so none of the stored entries has been renumbered and the lists are unchanged. Mend or remove the file %2 first.</translation>
+        </message>
+        <message>
+            <source>The entries of %1 could not be saved, so none of the stored entries has been renumbered and the lists are unchanged.</source>
+            <translation>The entries of %1 could not be saved, so none of the stored entries has been renumbered and the lists are unchanged.</translation>
+        </message>
+        <message>
+            <source>%1 The change is completed the next time Penwick starts; until then no month is saved.</source>
+            <translation>%1 The change is completed the next time Penwick starts; until then no month is saved.</translation>
+        </message>
+        <message>
+            <source>A change of the category and payway lists was interrupted and could not be finished: %1</source>
+            <translation>A change of the category and payway lists was interrupted and could not be finished: %1</translation>
+        </message>
+    </context>
+    <context>
+        <name>ListEditorModel</name>
+        <message>
+            <source>Double-click to choose another colour.</source>
+            <translation>Double-click to choose another colour.</translation>
+        </message>
+        <message>
+            <source>Colour</source>
+            <translation>Colour</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>Payway</translation>
+        </message>
+    </context>
+    <context>
+        <name>ListWinController</name>
+        <message>
+            <source>&amp;Previous Month</source>
+            <translation>&amp;Previous Month</translation>
+        </message>
+        <message>
+            <source>&amp;Next Month</source>
+            <translation>&amp;Next Month</translation>
+        </message>
+        <message>
+            <source>Year</source>
+            <translation>Year</translation>
+        </message>
+        <message>
+            <source>Month</source>
+            <translation>Month</translation>
+        </message>
+        <message>
+            <source>&amp;Edit Entries</source>
+            <translation>&amp;Edit Entries</translation>
+        </message>
+        <message>
+            <source>Change entries in place; a changed month moves the entry</source>
+            <translation>Change entries in place; a changed month moves the entry</translation>
+        </message>
+        <message>
+            <source>&amp;New Entry…</source>
+            <translation>&amp;New Entry…</translation>
+        </message>
+        <message>
+            <source>&amp;Delete Entries…</source>
+            <translation>&amp;Delete Entries…</translation>
+        </message>
+        <message>
+            <source>Edit</source>
+            <translation>Edit</translation>
+        </message>
+        <message>
+            <source>New Entry…</source>
+            <translation>New Entry…</translation>
+        </message>
+        <message>
+            <source>Delete…</source>
+            <translation>Delete…</translation>
+        </message>
+        <message>
+            <source>e.g. 1,5,10-12</source>
+            <translation>e.g. 1,5,10-12</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Any of these words</source>
+            <translation>Any of these words</translation>
+        </message>
+        <message>
+            <source>From</source>
+            <translation>From</translation>
+        </message>
+        <message>
+            <source>To</source>
+            <translation>To</translation>
+        </message>
+        <message>
+            <source>Payment method</source>
+            <translation>Payment method</translation>
+        </message>
+        <message>
+            <source>&amp;Days:</source>
+            <translation>&amp;Days:</translation>
+        </message>
+        <message>
+            <source>&amp;Words:</source>
+            <translation>&amp;Words:</translation>
+        </message>
+        <message>
+            <source>&amp;Amount:</source>
+            <translation>&amp;Amount:</translation>
+        </message>
+        <message>
+            <source>Clear &amp;Search</source>
+            <translation>Clear &amp;Search</translation>
+        </message>
+        <message>
+            <source>Clear</source>
+            <translation>Clear</translation>
+        </message>
+        <message>
+            <source>Show every entry of the month</source>
+            <translation>Show every entry of the month</translation>
+        </message>
+        <message>
+            <source>This Month</source>
+            <translation>This Month</translation>
+        </message>
+        <message>
+            <source>Spending:</source>
+            <translation>Spending:</translation>
+        </message>
+        <message>
+            <source>Income:</source>
+            <translation>Income:</translation>
+        </message>
+        <message>
+            <source>Balance:</source>
+            <translation>Balance:</translation>
+        </message>
+        <message>
+            <source>Shown Entries</source>
+            <translation>Shown Entries</translation>
+        </message>
+        <message>
+            <source>Share of the month:</source>
+            <translation>Share of the month:</translation>
+        </message>
+        <message>
+            <source>Memo</source>
+            <translation>Memo</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>&amp;File</translation>
+        </message>
+        <message>
+            <source>&amp;Print…</source>
+            <translation>&amp;Print…</translation>
+        </message>
+        <message>
+            <source>&amp;Export as PDF…</source>
+            <translation>&amp;Export as PDF…</translation>
+        </message>
+        <message>
+            <source>&amp;Close</source>
+            <translation>&amp;Close</translation>
+        </message>
+        <message>
+            <source>&amp;Edit</source>
+            <translation>&amp;Edit</translation>
+        </message>
+        <message>
+            <source>&amp;View</source>
+            <translation>&amp;View</translation>
+        </message>
+        <message>
+            <source>&amp;Columns</source>
+            <translation>&amp;Columns</translation>
+        </message>
+        <message>
+            <source>%1 %</source>
+            <translation>%1 %</translation>
+        </message>
+        <message>
+            <source>%1 %2, closing on day %3</source>
+            <translation>%1 %2, closing on day %3</translation>
+        </message>
+        <message>
+            <source>%1 %2</source>
+            <translation>%1 %2</translation>
+        </message>
+        <message>
+            <source>%1 – Entries</source>
+            <translation>%1 – Entries</translation>
+        </message>
+        <message>
+            <source>This month's file could not be read.</source>
+            <translation>This month's file could not be read.</translation>
+        </message>
+        <message>
+            <source>Notes on %1 %2</source>
+            <translation>Notes on %1 %2</translation>
+        </message>
+        <message>
+            <source>Double-click a cell to change it. A changed month or year moves the entry there.</source>
+            <translation>Double-click a cell to change it. A changed month or year moves the entry there.</translation>
+        </message>
+        <message>
+            <source>Delete Entries</source>
+            <translation>Delete Entries</translation>
+        </message>
+        <message numerus="yes">
+            <source>Delete %n selected entries?</source>
+            <translation>
+                <numerusform>Delete the selected entry?</numerusform>
+                <numerusform>Delete %n selected entries?</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Deleted entries cannot be brought back.</source>
+            <translation>Deleted entries cannot be brought back.</translation>
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation>Delete</translation>
+        </message>
+        <message>
+            <source>days %1</source>
+            <translation>days %1</translation>
+        </message>
+        <message>
+            <source>words %1</source>
+            <translation>words %1</translation>
+        </message>
+        <message>
+            <source>from %1</source>
+            <translation>from %1</translation>
+        </message>
+        <message>
+            <source>up to %1</source>
+            <translation>up to %1</translation>
+        </message>
+        <message>
+            <source>Spending</source>
+            <translation>Spending</translation>
+        </message>
+        <message>
+            <source>Income</source>
+            <translation>Income</translation>
+        </message>
+        <message>
+            <source>Balance</source>
+            <translation>Balance</translation>
+        </message>
+        <message>
+            <source>Entries found by: %1</source>
+            <translation>Entries found by: %1</translation>
+        </message>
+        <message>
+            <source>Spending of the entries shown</source>
+            <translation>Spending of the entries shown</translation>
+        </message>
+        <message>
+            <source>Share of the month</source>
+            <translation>Share of the month</translation>
+        </message>
+        <message>
+            <source>Balance of the entries shown</source>
+            <translation>Balance of the entries shown</translation>
+        </message>
+        <message>
+            <source>Export as PDF</source>
+            <translation>Export as PDF</translation>
+        </message>
+        <message>
+            <source>PDF documents (*.pdf)</source>
+            <translation>PDF documents (*.pdf)</translation>
+        </message>
+        <message>
+            <source>The PDF could not be written to %1.</source>
+            <translation>The PDF could not be written to %1.</translation>
+        </message>
     </context>
     <context>
         <name>Localizable</name>
         <message>
             <source>DataFolderName</source>
             <translation>PenwickData</translation>
+        </message>
+        <message>
+            <source>BarGraph Label Format</source>
+            <translation>%1/%2</translation>
+        </message>
+        <message>
+            <source>LineGraph MonthLabel Format</source>
+            <translation>%1</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Input Data before Quit</source>
+            <translation>Book the typed entries before quitting?</translation>
+        </message>
+        <message>
+            <source>Quit Input Alert</source>
+            <translation>Some typed entries have not been booked yet. If you quit without booking them, they are lost.</translation>
+        </message>
+        <message>
+            <source>Input and Quit</source>
+            <translation>Book and Quit</translation>
+        </message>
+        <message>
+            <source>Quit without Quit</source>
+            <translation>Quit Without Booking</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancel</translation>
+        </message>
+        <message>
+            <source>Data Category is not selected</source>
+            <translation>Some rows have no category.</translation>
+        </message>
+        <message>
+            <source>Ignore unselected data</source>
+            <translation>If you book now, rows without a category are left out. Choose a category for them, or book the other rows.</translation>
+        </message>
+        <message>
+            <source>Select</source>
+            <translation>Choose Categories</translation>
+        </message>
+        <message>
+            <source>Input</source>
+            <translation>Book Other Rows</translation>
+        </message>
+        <message>
+            <source>Balance of last month</source>
+            <translation>Balance of last month: %1</translation>
+        </message>
+        <message>
+            <source>Income</source>
+            <translation>Income</translation>
+        </message>
+    </context>
+    <context>
+        <name>MergeItemDialog</name>
+        <message>
+            <source>Delete Item</source>
+            <translation>Delete Item</translation>
+        </message>
+        <message>
+            <source>&lt;b&gt;Delete “%1”?&lt;/b&gt;&lt;br&gt;Entries booked under it, in every month, are kept and moved to another item.</source>
+            <translation>&lt;b&gt;Delete “%1”?&lt;/b&gt;&lt;br&gt;Entries booked under it, in every month, are kept and moved to another item.</translation>
+        </message>
+        <message>
+            <source>&amp;Move its entries to:</source>
+            <translation>&amp;Move its entries to:</translation>
+        </message>
+        <message>
+            <source>&amp;Delete</source>
+            <translation>&amp;Delete</translation>
+        </message>
+    </context>
+    <context>
+        <name>NumberUtility</name>
+        <message>
+            <source>Multiple Character</source>
+            <translation>×</translation>
         </message>
     </context>
     <context>
@@ -114,6 +830,218 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
         <message>
             <source>New password is wrong</source>
             <translation>New password is wrong</translation>
+        </message>
+    </context>
+    <context>
+        <name>PrefWinController</name>
+        <message>
+            <source>Preferences</source>
+            <translation>Preferences</translation>
+        </message>
+        <message>
+            <source>&lt;b&gt;Welcome to Penwick.&lt;/b&gt; Look through the categories and payways you will book entries under, and choose where your account book is kept. You can change all of this later in the preferences.</source>
+            <translation>&lt;b&gt;Welcome to Penwick.&lt;/b&gt; Look through the categories and payways you will book entries under, and choose where your account book is kept. You can change all of this later in the preferences.</translation>
+        </message>
+        <message>
+            <source>Drag a category to change the order. Income always comes last and is not edited here.</source>
+            <translation>Drag a category to change the order. Income always comes last and is not edited here.</translation>
+        </message>
+        <message>
+            <source>&amp;Categories</source>
+            <translation>&amp;Categories</translation>
+        </message>
+        <message>
+            <source>Drag a payway to change the order.</source>
+            <translation>Drag a payway to change the order.</translation>
+        </message>
+        <message>
+            <source>&amp;Payways</source>
+            <translation>&amp;Payways</translation>
+        </message>
+        <message>
+            <source>&amp;General</source>
+            <translation>&amp;General</translation>
+        </message>
+        <message>
+            <source>&amp;Add</source>
+            <translation>&amp;Add</translation>
+        </message>
+        <message>
+            <source>&amp;Delete…</source>
+            <translation>&amp;Delete…</translation>
+        </message>
+        <message>
+            <source>C&amp;olour…</source>
+            <translation>C&amp;olour…</translation>
+        </message>
+        <message>
+            <source>C&amp;hoose…</source>
+            <translation>C&amp;hoose…</translation>
+        </message>
+        <message>
+            <source>Data folder:</source>
+            <translation>Data folder:</translation>
+        </message>
+        <message>
+            <source>&amp;Input window</source>
+            <translation>&amp;Input window</translation>
+        </message>
+        <message>
+            <source>&amp;List window</source>
+            <translation>&amp;List window</translation>
+        </message>
+        <message>
+            <source>G&amp;raph window</source>
+            <translation>G&amp;raph window</translation>
+        </message>
+        <message>
+            <source>&amp;Balance window</source>
+            <translation>&amp;Balance window</translation>
+        </message>
+        <message>
+            <source>Open at start:</source>
+            <translation>Open at start:</translation>
+        </message>
+        <message>
+            <source>Close each &amp;month on day</source>
+            <translation>Close each &amp;month on day</translation>
+        </message>
+        <message>
+            <source>Entries after this day count towards the next month.</source>
+            <translation>Entries after this day count towards the next month.</translation>
+        </message>
+        <message>
+            <source>Closing day:</source>
+            <translation>Closing day:</translation>
+        </message>
+        <message>
+            <source>Presses OK</source>
+            <translation>Presses OK</translation>
+        </message>
+        <message>
+            <source>Presses Input</source>
+            <translation>Presses Input</translation>
+        </message>
+        <message>
+            <source>Does nothing</source>
+            <translation>Does nothing</translation>
+        </message>
+        <message>
+            <source>Return &amp;key in the input window:</source>
+            <translation>Return &amp;key in the input window:</translation>
+        </message>
+        <message>
+            <source>Change Pass&amp;word…</source>
+            <translation>Change Pass&amp;word…</translation>
+        </message>
+        <message>
+            <source>Password:</source>
+            <translation>Password:</translation>
+        </message>
+        <message>
+            <source>No password is asked for at start.</source>
+            <translation>No password is asked for at start.</translation>
+        </message>
+        <message>
+            <source>A password is asked for at start.</source>
+            <translation>A password is asked for at start.</translation>
+        </message>
+        <message>
+            <source>Untitled</source>
+            <translation>Untitled</translation>
+        </message>
+        <message>
+            <source>Colour of “%1”</source>
+            <translation>Colour of “%1”</translation>
+        </message>
+        <message>
+            <source>Choose the Data Folder</source>
+            <translation>Choose the Data Folder</translation>
+        </message>
+        <message>
+            <source>Choose</source>
+            <translation>Choose</translation>
+        </message>
+        <message>
+            <source>Penwick cannot keep its data in this folder.</source>
+            <translation>Penwick cannot keep its data in this folder.</translation>
+        </message>
+        <message>
+            <source>The folder %1 cannot be written to. Choose a folder you may change.</source>
+            <translation>The folder %1 cannot be written to. Choose a folder you may change.</translation>
+        </message>
+        <message>
+            <source>The data folder was not changed.</source>
+            <translation>The data folder was not changed.</translation>
+        </message>
+        <message>
+            <source>Some months could not be saved in the current folder. They stay loaded so that nothing is lost; free some disk space or check the folder's permissions, then try again.</source>
+            <translation>Some months could not be saved in the current folder. They stay loaded so that nothing is lost; free some disk space or check the folder's permissions, then try again.</translation>
+        </message>
+        <message>
+            <source>The new data folder needs attention.</source>
+            <translation>The new data folder needs attention.</translation>
+        </message>
+        <message>
+            <source>The password is removed when you press OK.</source>
+            <translation>The password is removed when you press OK.</translation>
+        </message>
+        <message>
+            <source>The new password is set when you press OK.</source>
+            <translation>The new password is set when you press OK.</translation>
+        </message>
+        <message>
+            <source>Renumbering the stored entries…</source>
+            <translation>Renumbering the stored entries…</translation>
+        </message>
+        <message>
+            <source>The lists were not changed.</source>
+            <translation>The lists were not changed.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScriptApplication</name>
+        <message>
+            <source>Penwick is locked: enter the password in the program first.</source>
+            <translation>Penwick is locked: enter the password in the program first.</translation>
+        </message>
+        <message>
+            <source>The entry could not be booked: its month cannot be changed.</source>
+            <translation>The entry could not be booked: its month cannot be changed.</translation>
+        </message>
+        <message>
+            <source>There is no month %1.</source>
+            <translation>There is no month %1.</translation>
+        </message>
+        <message>
+            <source>at index %1</source>
+            <translation>at index %1</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScriptDataList</name>
+        <message>
+            <source>Penwick is locked: enter the password in the program first.</source>
+            <translation>Penwick is locked: enter the password in the program first.</translation>
+        </message>
+        <message>
+            <source>There is no month %1.</source>
+            <translation>There is no month %1.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScriptService</name>
+        <message>
+            <source>There is no session bus: %1</source>
+            <translation>There is no session bus: %1</translation>
+        </message>
+        <message>
+            <source>The scripting object could not be registered.</source>
+            <translation>The scripting object could not be registered.</translation>
+        </message>
+        <message>
+            <source>Another program already answers scripts as %1.</source>
+            <translation>Another program already answers scripts as %1.</translation>
         </message>
     </context>
     <context>
@@ -148,6 +1076,29 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
         <message>
             <source>Penwick could not wait for later launches: %1</source>
             <translation>Penwick could not wait for later launches: %1</translation>
+        </message>
+        <message>
+            <source>Another Penwick already works on the data folder "%1".</source>
+            <translation>Another Penwick already works on the data folder "%1".</translation>
+        </message>
+    </context>
+    <context>
+        <name>StringUtility</name>
+        <message>
+            <source>Space Character</source>
+            <translation> </translation>
+        </message>
+        <message>
+            <source>Kuten Character</source>
+            <translation>,</translation>
+        </message>
+        <message>
+            <source>Minus Character</source>
+            <translation>-</translation>
+        </message>
+        <message>
+            <source>Tilde Character</source>
+            <translation>~</translation>
         </message>
     </context>
     <context>

@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
     <context>
+        <name>BalanceWinController</name>
+        <message>
+            <source>Balance</source>
+            <translation>残高</translation>
+        </message>
+        <message>
+            <source>Spending</source>
+            <translation>支出</translation>
+        </message>
+        <message>
+            <source>Income</source>
+            <translation>収入</translation>
+        </message>
+    </context>
+    <context>
+        <name>CheckPopUpButton</name>
+        <message>
+            <source>Select All</source>
+            <translation>すべて選択</translation>
+        </message>
+        <message>
+            <source>Clear Selection</source>
+            <translation>選択を解除</translation>
+        </message>
+        <message>
+            <source>%1: All</source>
+            <translation>%1: すべて</translation>
+        </message>
+        <message>
+            <source>%1: %2</source>
+            <translation>%1: %2</translation>
+        </message>
+        <message numerus="yes">
+            <source>%1: %n selected</source>
+            <translation>
+                <numerusform>%1: %n 件を選択</numerusform>
+            </translation>
+        </message>
+    </context>
+    <context>
+        <name>CircleGraphView</name>
+        <message>
+            <source>No spending to show for this month</source>
+            <translation>今月は表示する支出がありません</translation>
+        </message>
+    </context>
+    <context>
         <name>ConfirmPassPanelController</name>
         <message>
             <source>Password</source>
@@ -10,6 +57,275 @@
         <message>
             <source>&amp;Password:</source>
             <translation>パスワード(&amp;P):</translation>
+        </message>
+    </context>
+    <context>
+        <name>ConversionJournal</name>
+        <message>
+            <source>The folder %1 could not be written to disk: %2</source>
+            <translation>フォルダ %1 をディスクに書き込めませんでした: %2</translation>
+        </message>
+        <message>
+            <source>%1 could not be written: %2</source>
+            <translation>%1 を書き込めませんでした: %2</translation>
+        </message>
+        <message>
+            <source>The record of an unfinished change of the lists, %1, cannot be read.</source>
+            <translation>終わっていないリスト変更の記録 %1 を読み込めません。</translation>
+        </message>
+        <message>
+            <source>%1 could not be written to disk: %2</source>
+            <translation>%1 をディスクに書き込めませんでした: %2</translation>
+        </message>
+        <message>
+            <source>%1 could not be replaced: %2</source>
+            <translation>%1 を置き換えられませんでした: %2</translation>
+        </message>
+        <message>
+            <source>The list file %1 could not be written.</source>
+            <translation>リストファイル %1 を書き込めませんでした。</translation>
+        </message>
+    </context>
+    <context>
+        <name>DataListTableModel</name>
+        <message>
+            <source>%1/%2</source>
+            <comment>month/day</comment>
+            <translation>%1/%2</translation>
+        </message>
+        <message>
+            <source>Year</source>
+            <translation>年</translation>
+        </message>
+        <message>
+            <source>Month</source>
+            <translation>月</translation>
+        </message>
+        <message>
+            <source>Day</source>
+            <translation>日</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>内容</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>金額</translation>
+        </message>
+        <message>
+            <source>Payment method</source>
+            <translation>支払い方法</translation>
+        </message>
+    </context>
+    <context>
+        <name>GraphCategoryModel</name>
+        <message>
+            <source>%1 %</source>
+            <translation>%1 %</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>金額</translation>
+        </message>
+        <message>
+            <source>Share</source>
+            <translation>割合</translation>
+        </message>
+    </context>
+    <context>
+        <name>GraphWinController</name>
+        <message>
+            <source>Charts</source>
+            <translation>グラフ</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>ファイル(&amp;F)</translation>
+        </message>
+        <message>
+            <source>&amp;Print…</source>
+            <translation>印刷…(&amp;P)</translation>
+        </message>
+        <message>
+            <source>Export as P&amp;DF…</source>
+            <translation>PDFとして書き出す…(&amp;D)</translation>
+        </message>
+        <message>
+            <source>&amp;Close</source>
+            <translation>閉じる(&amp;C)</translation>
+        </message>
+        <message>
+            <source>Pie chart</source>
+            <translation>円グラフ</translation>
+        </message>
+        <message>
+            <source>Bar chart</source>
+            <translation>棒グラフ</translation>
+        </message>
+        <message>
+            <source>Line chart</source>
+            <translation>折れ線グラフ</translation>
+        </message>
+        <message>
+            <source>Show one month fewer</source>
+            <translation>表示する月を1つ減らす</translation>
+        </message>
+        <message>
+            <source>Show one month more</source>
+            <translation>表示する月を1つ増やす</translation>
+        </message>
+        <message>
+            <source>&amp;Year</source>
+            <translation>年(&amp;Y)</translation>
+        </message>
+        <message>
+            <source>&amp;Month</source>
+            <translation>月(&amp;M)</translation>
+        </message>
+        <message>
+            <source>Previous month</source>
+            <translation>前の月</translation>
+        </message>
+        <message>
+            <source>Next month</source>
+            <translation>次の月</translation>
+        </message>
+        <message>
+            <source>Chart %1-%2.pdf</source>
+            <translation>グラフ %1-%2.pdf</translation>
+        </message>
+        <message>
+            <source>Export as PDF</source>
+            <translation>PDFとして書き出す</translation>
+        </message>
+        <message>
+            <source>PDF files (*.pdf)</source>
+            <translation>PDFファイル (*.pdf)</translation>
+        </message>
+        <message>
+            <source>MMMM yyyy</source>
+            <comment>date format of the printed heading</comment>
+            <translation>yyyy年M月</translation>
+        </message>
+        <message>
+            <source>%1 — %2</source>
+            <comment>printed heading: month, chart</comment>
+            <translation>%1 — %2</translation>
+        </message>
+    </context>
+    <context>
+        <name>InputRow</name>
+        <message>
+            <source>Month, row %1</source>
+            <translation>%1行目の月</translation>
+        </message>
+        <message>
+            <source>Day, row %1</source>
+            <translation>%1行目の日</translation>
+        </message>
+        <message>
+            <source>Category, row %1</source>
+            <translation>%1行目の分類</translation>
+        </message>
+        <message>
+            <source>Details, row %1</source>
+            <translation>%1行目の内容</translation>
+        </message>
+        <message>
+            <source>Amount, row %1</source>
+            <translation>%1行目の金額</translation>
+        </message>
+        <message>
+            <source>An amount, or a sum such as 1,200+350 or 3*450.</source>
+            <translation>金額、または 1,200+350 や 3*450 のような計算式。</translation>
+        </message>
+        <message>
+            <source>Payway, row %1</source>
+            <translation>%1行目の支払い方法</translation>
+        </message>
+    </context>
+    <context>
+        <name>InputWinController</name>
+        <message>
+            <source>Book Entries</source>
+            <translation>記帳</translation>
+        </message>
+        <message>
+            <source>&amp;Date:</source>
+            <translation>日付(&amp;D):</translation>
+        </message>
+        <message>
+            <source>Year</source>
+            <translation>年</translation>
+        </message>
+        <message>
+            <source>Month</source>
+            <translation>月</translation>
+        </message>
+        <message>
+            <source>Day</source>
+            <translation>日</translation>
+        </message>
+        <message>
+            <source>Previous day</source>
+            <translation>前の日</translation>
+        </message>
+        <message>
+            <source>Next day</source>
+            <translation>次の日</translation>
+        </message>
+        <message>
+            <source>Date</source>
+            <translation>日付</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>内容</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>金額</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>支払い方法</translation>
+        </message>
+        <message>
+            <source>Spending total:</source>
+            <translation>支出の合計:</translation>
+        </message>
+        <message>
+            <source>Spending total</source>
+            <translation>支出の合計</translation>
+        </message>
+        <message>
+            <source>&amp;Add Row</source>
+            <translation>行を追加(&amp;A)</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>キャンセル</translation>
+        </message>
+        <message>
+            <source>Book and Show &amp;List</source>
+            <translation>記帳して一覧を表示(&amp;L)</translation>
+        </message>
+        <message>
+            <source>&amp;Book</source>
+            <translation>記帳(&amp;B)</translation>
         </message>
     </context>
     <context>
@@ -70,6 +386,26 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
             <source>&lt;h3&gt;Penwick %1&lt;/h3&gt;&lt;p&gt;A household account book.&lt;/p&gt;&lt;p&gt;Your entries are kept month by month in the data folder:&lt;br&gt;%2&lt;/p&gt;</source>
             <translation>&lt;h3&gt;Penwick %1&lt;/h3&gt;&lt;p&gt;家計簿アプリケーション&lt;/p&gt;&lt;p&gt;データは月ごとに次のデータフォルダに保存されています:&lt;br&gt;%2&lt;/p&gt;</translation>
         </message>
+        <message>
+            <source>&amp;Input Window</source>
+            <translation>入力ウインドウ(&amp;I)</translation>
+        </message>
+        <message>
+            <source>&amp;List Window</source>
+            <translation>一覧ウインドウ(&amp;L)</translation>
+        </message>
+        <message>
+            <source>&amp;Graph Window</source>
+            <translation>グラフウインドウ(&amp;G)</translation>
+        </message>
+        <message>
+            <source>&amp;Balance Window</source>
+            <translation>収支ウインドウ(&amp;B)</translation>
+        </message>
+        <message>
+            <source>&amp;Preferences…</source>
+            <translation>環境設定…(&amp;P)</translation>
+        </message>
     </context>
     <context>
         <name>KController</name>
@@ -89,12 +425,390 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
             <source>The file of this month could not be read, so no entry can be moved into it.</source>
             <translation>この月のファイルを読み込めなかったため、データを移動できません。</translation>
         </message>
+        <message>
+            <source>An earlier change of the lists has not been finished yet.</source>
+            <translation>前に行ったリストの変更がまだ終わっていません。</translation>
+        </message>
+        <message>
+            <source>The list file %1 could not be written.</source>
+            <translation>リストファイル %1 を書き込めませんでした。</translation>
+        </message>
+        <message>
+            <source>The entries of %1 cannot be read, so none of the stored entries has been renumbered and the lists are unchanged. Mend or remove the file %2 first.</source>
+            <translation>%1 のデータを読み込めないため、保存されたデータの番号は付け直されず、リストも変わっていません。先にファイル %2 を直すか取り除いてください。</translation>
+        </message>
+        <message>
+            <source>The entries of %1 could not be saved, so none of the stored entries has been renumbered and the lists are unchanged.</source>
+            <translation>%1 のデータを保存できなかったため、保存されたデータの番号は付け直されず、リストも変わっていません。</translation>
+        </message>
+        <message>
+            <source>%1 The change is completed the next time Penwick starts; until then no month is saved.</source>
+            <translation>%1 変更は次に Penwick を起動したときに完了します。それまでどの月も保存されません。</translation>
+        </message>
+        <message>
+            <source>A change of the category and payway lists was interrupted and could not be finished: %1</source>
+            <translation>分類と支払い方法のリストの変更が中断され、完了できませんでした: %1</translation>
+        </message>
+    </context>
+    <context>
+        <name>ListEditorModel</name>
+        <message>
+            <source>Double-click to choose another colour.</source>
+            <translation>ダブルクリックすると別の色を選べます。</translation>
+        </message>
+        <message>
+            <source>Colour</source>
+            <translation>色</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>支払い方法</translation>
+        </message>
+    </context>
+    <context>
+        <name>ListWinController</name>
+        <message>
+            <source>&amp;Previous Month</source>
+            <translation>前の月(&amp;P)</translation>
+        </message>
+        <message>
+            <source>&amp;Next Month</source>
+            <translation>次の月(&amp;N)</translation>
+        </message>
+        <message>
+            <source>Year</source>
+            <translation>年</translation>
+        </message>
+        <message>
+            <source>Month</source>
+            <translation>月</translation>
+        </message>
+        <message>
+            <source>&amp;Edit Entries</source>
+            <translation>データを編集(&amp;E)</translation>
+        </message>
+        <message>
+            <source>Change entries in place; a changed month moves the entry</source>
+            <translation>その場でデータを変更します。月を変えるとデータはその月へ移ります</translation>
+        </message>
+        <message>
+            <source>&amp;New Entry…</source>
+            <translation>新規データ…(&amp;N)</translation>
+        </message>
+        <message>
+            <source>&amp;Delete Entries…</source>
+            <translation>データを削除…(&amp;D)</translation>
+        </message>
+        <message>
+            <source>Edit</source>
+            <translation>編集</translation>
+        </message>
+        <message>
+            <source>New Entry…</source>
+            <translation>新規データ…</translation>
+        </message>
+        <message>
+            <source>Delete…</source>
+            <translation>削除…</translation>
+        </message>
+        <message>
+            <source>e.g. 1,5,10-12</source>
+            <translation>例: 1,5,10-12</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Any of these words</source>
+            <translation>いずれかの語を含む</translation>
+        </message>
+        <message>
+            <source>From</source>
+            <translation>下限</translation>
+        </message>
+        <message>
+            <source>To</source>
+            <translation>上限</translation>
+        </message>
+        <message>
+            <source>Payment method</source>
+            <translation>支払い方法</translation>
+        </message>
+        <message>
+            <source>&amp;Days:</source>
+            <translation>日(&amp;D):</translation>
+        </message>
+        <message>
+            <source>&amp;Words:</source>
+            <translation>語句(&amp;W):</translation>
+        </message>
+        <message>
+            <source>&amp;Amount:</source>
+            <translation>金額(&amp;A):</translation>
+        </message>
+        <message>
+            <source>Clear &amp;Search</source>
+            <translation>検索を解除(&amp;S)</translation>
+        </message>
+        <message>
+            <source>Clear</source>
+            <translation>解除</translation>
+        </message>
+        <message>
+            <source>Show every entry of the month</source>
+            <translation>この月のデータをすべて表示</translation>
+        </message>
+        <message>
+            <source>This Month</source>
+            <translation>今月</translation>
+        </message>
+        <message>
+            <source>Spending:</source>
+            <translation>支出:</translation>
+        </message>
+        <message>
+            <source>Income:</source>
+            <translation>収入:</translation>
+        </message>
+        <message>
+            <source>Balance:</source>
+            <translation>残高:</translation>
+        </message>
+        <message>
+            <source>Shown Entries</source>
+            <translation>表示中のデータ</translation>
+        </message>
+        <message>
+            <source>Share of the month:</source>
+            <translation>月に占める割合:</translation>
+        </message>
+        <message>
+            <source>Memo</source>
+            <translation>メモ</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>ファイル(&amp;F)</translation>
+        </message>
+        <message>
+            <source>&amp;Print…</source>
+            <translation>印刷…(&amp;P)</translation>
+        </message>
+        <message>
+            <source>&amp;Export as PDF…</source>
+            <translation>PDFとして書き出す…(&amp;E)</translation>
+        </message>
+        <message>
+            <source>&amp;Close</source>
+            <translation>閉じる(&amp;C)</translation>
+        </message>
+        <message>
+            <source>&amp;Edit</source>
+            <translation>編集(&amp;E)</translation>
+        </message>
+        <message>
+            <source>&amp;View</source>
+            <translation>表示(&amp;V)</translation>
+        </message>
+        <message>
+            <source>&amp;Columns</source>
+            <translation>列(&amp;C)</translation>
+        </message>
+        <message>
+            <source>%1 %</source>
+            <translation>%1 %</translation>
+        </message>
+        <message>
+            <source>%1 %2, closing on day %3</source>
+            <translation>%1年%2月 (%3日締め)</translation>
+        </message>
+        <message>
+            <source>%1 %2</source>
+            <translation>%1年%2月</translation>
+        </message>
+        <message>
+            <source>%1 – Entries</source>
+            <translation>%1 – データ</translation>
+        </message>
+        <message>
+            <source>This month's file could not be read.</source>
+            <translation>この月のファイルを読み込めませんでした。</translation>
+        </message>
+        <message>
+            <source>Notes on %1 %2</source>
+            <translation>%1年%2月のメモ</translation>
+        </message>
+        <message>
+            <source>Double-click a cell to change it. A changed month or year moves the entry there.</source>
+            <translation>セルをダブルクリックすると変更できます。月や年を変えるとデータはそこへ移ります。</translation>
+        </message>
+        <message>
+            <source>Delete Entries</source>
+            <translation>データの削除</translation>
+        </message>
+        <message numerus="yes">
+            <source>Delete %n selected entries?</source>
+            <translation>
+                <numerusform>選択した %n 件のデータを削除しますか?</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Deleted entries cannot be brought back.</source>
+            <translation>削除したデータは元に戻せません。</translation>
+        </message>
+        <message>
+            <source>Delete</source>
+            <translation>削除</translation>
+        </message>
+        <message>
+            <source>days %1</source>
+            <translation>日 %1</translation>
+        </message>
+        <message>
+            <source>words %1</source>
+            <translation>語句 %1</translation>
+        </message>
+        <message>
+            <source>from %1</source>
+            <translation>%1 以上</translation>
+        </message>
+        <message>
+            <source>up to %1</source>
+            <translation>%1 以下</translation>
+        </message>
+        <message>
+            <source>Spending</source>
+            <translation>支出</translation>
+        </message>
+        <message>
+            <source>Income</source>
+            <translation>収入</translation>
+        </message>
+        <message>
+            <source>Balance</source>
+            <translation>残高</translation>
+        </message>
+        <message>
+            <source>Entries found by: %1</source>
+            <translation>検索条件: %1</translation>
+        </message>
+        <message>
+            <source>Spending of the entries shown</source>
+            <translation>表示中のデータの支出</translation>
+        </message>
+        <message>
+            <source>Share of the month</source>
+            <translation>月に占める割合</translation>
+        </message>
+        <message>
+            <source>Balance of the entries shown</source>
+            <translation>表示中のデータの残高</translation>
+        </message>
+        <message>
+            <source>Export as PDF</source>
+            <translation>PDFとして書き出す</translation>
+        </message>
+        <message>
+            <source>PDF documents (*.pdf)</source>
+            <translation>PDF書類 (*.pdf)</translation>
+        </message>
+        <message>
+            <source>The PDF could not be written to %1.</source>
+            <translation>PDF を %1 に書き出せませんでした。</translation>
+        </message>
     </context>
     <context>
         <name>Localizable</name>
         <message>
             <source>DataFolderName</source>
             <translation>PenwickData</translation>
+        </message>
+        <message>
+            <source>BarGraph Label Format</source>
+            <translation>%1年%2月</translation>
+        </message>
+        <message>
+            <source>LineGraph MonthLabel Format</source>
+            <translation>%1月</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Input Data before Quit</source>
+            <translation>終了する前に、入力した項目を記帳しますか?</translation>
+        </message>
+        <message>
+            <source>Quit Input Alert</source>
+            <translation>まだ記帳していない項目があります。記帳せずに終了すると、それらは失われます。</translation>
+        </message>
+        <message>
+            <source>Input and Quit</source>
+            <translation>記帳して終了</translation>
+        </message>
+        <message>
+            <source>Quit without Quit</source>
+            <translation>記帳せずに終了</translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>キャンセル</translation>
+        </message>
+        <message>
+            <source>Data Category is not selected</source>
+            <translation>分類が選ばれていない行があります。</translation>
+        </message>
+        <message>
+            <source>Ignore unselected data</source>
+            <translation>いま記帳すると、分類のない行は記帳されません。分類を選ぶか、ほかの行だけを記帳してください。</translation>
+        </message>
+        <message>
+            <source>Select</source>
+            <translation>分類を選ぶ</translation>
+        </message>
+        <message>
+            <source>Input</source>
+            <translation>ほかの行を記帳</translation>
+        </message>
+        <message>
+            <source>Balance of last month</source>
+            <translation>先月の残高: %1</translation>
+        </message>
+        <message>
+            <source>Income</source>
+            <translation>収入</translation>
+        </message>
+    </context>
+    <context>
+        <name>MergeItemDialog</name>
+        <message>
+            <source>Delete Item</source>
+            <translation>項目の削除</translation>
+        </message>
+        <message>
+            <source>&lt;b&gt;Delete “%1”?&lt;/b&gt;&lt;br&gt;Entries booked under it, in every month, are kept and moved to another item.</source>
+            <translation>&lt;b&gt;「%1」を削除しますか?&lt;/b&gt;&lt;br&gt;この項目で記帳されたデータは、すべての月で残され、別の項目へ移されます。</translation>
+        </message>
+        <message>
+            <source>&amp;Move its entries to:</source>
+            <translation>データの移動先(&amp;M):</translation>
+        </message>
+        <message>
+            <source>&amp;Delete</source>
+            <translation>削除(&amp;D)</translation>
+        </message>
+    </context>
+    <context>
+        <name>NumberUtility</name>
+        <message>
+            <source>Multiple Character</source>
+            <translation>×</translation>
         </message>
     </context>
     <context>
@@ -114,6 +828,218 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
         <message>
             <source>New password is wrong</source>
             <translation>新しいパスワードが一致しません</translation>
+        </message>
+    </context>
+    <context>
+        <name>PrefWinController</name>
+        <message>
+            <source>Preferences</source>
+            <translation>環境設定</translation>
+        </message>
+        <message>
+            <source>&lt;b&gt;Welcome to Penwick.&lt;/b&gt; Look through the categories and payways you will book entries under, and choose where your account book is kept. You can change all of this later in the preferences.</source>
+            <translation>&lt;b&gt;Penwick へようこそ。&lt;/b&gt;記帳に使う分類と支払い方法を確かめ、家計簿を保存する場所を選んでください。これらはあとから環境設定でいつでも変えられます。</translation>
+        </message>
+        <message>
+            <source>Drag a category to change the order. Income always comes last and is not edited here.</source>
+            <translation>分類をドラッグすると順番を変えられます。収入は常に最後で、ここでは編集できません。</translation>
+        </message>
+        <message>
+            <source>&amp;Categories</source>
+            <translation>分類(&amp;C)</translation>
+        </message>
+        <message>
+            <source>Drag a payway to change the order.</source>
+            <translation>支払い方法をドラッグすると順番を変えられます。</translation>
+        </message>
+        <message>
+            <source>&amp;Payways</source>
+            <translation>支払い方法(&amp;P)</translation>
+        </message>
+        <message>
+            <source>&amp;General</source>
+            <translation>一般(&amp;G)</translation>
+        </message>
+        <message>
+            <source>&amp;Add</source>
+            <translation>追加(&amp;A)</translation>
+        </message>
+        <message>
+            <source>&amp;Delete…</source>
+            <translation>削除…(&amp;D)</translation>
+        </message>
+        <message>
+            <source>C&amp;olour…</source>
+            <translation>色…(&amp;O)</translation>
+        </message>
+        <message>
+            <source>C&amp;hoose…</source>
+            <translation>選択…(&amp;H)</translation>
+        </message>
+        <message>
+            <source>Data folder:</source>
+            <translation>データフォルダ:</translation>
+        </message>
+        <message>
+            <source>&amp;Input window</source>
+            <translation>入力ウインドウ(&amp;I)</translation>
+        </message>
+        <message>
+            <source>&amp;List window</source>
+            <translation>一覧ウインドウ(&amp;L)</translation>
+        </message>
+        <message>
+            <source>G&amp;raph window</source>
+            <translation>グラフウインドウ(&amp;R)</translation>
+        </message>
+        <message>
+            <source>&amp;Balance window</source>
+            <translation>収支ウインドウ(&amp;B)</translation>
+        </message>
+        <message>
+            <source>Open at start:</source>
+            <translation>起動時に開く:</translation>
+        </message>
+        <message>
+            <source>Close each &amp;month on day</source>
+            <translation>毎月の締め日(&amp;M)</translation>
+        </message>
+        <message>
+            <source>Entries after this day count towards the next month.</source>
+            <translation>この日より後のデータは翌月分として数えます。</translation>
+        </message>
+        <message>
+            <source>Closing day:</source>
+            <translation>締め日:</translation>
+        </message>
+        <message>
+            <source>Presses OK</source>
+            <translation>OK を押す</translation>
+        </message>
+        <message>
+            <source>Presses Input</source>
+            <translation>記帳を押す</translation>
+        </message>
+        <message>
+            <source>Does nothing</source>
+            <translation>何もしない</translation>
+        </message>
+        <message>
+            <source>Return &amp;key in the input window:</source>
+            <translation>入力ウインドウの Return キー(&amp;K):</translation>
+        </message>
+        <message>
+            <source>Change Pass&amp;word…</source>
+            <translation>パスワードを変更…(&amp;W)</translation>
+        </message>
+        <message>
+            <source>Password:</source>
+            <translation>パスワード:</translation>
+        </message>
+        <message>
+            <source>No password is asked for at start.</source>
+            <translation>起動時にパスワードを求めません。</translation>
+        </message>
+        <message>
+            <source>A password is asked for at start.</source>
+            <translation>起動時にパスワードを求めます。</translation>
+        </message>
+        <message>
+            <source>Untitled</source>
+            <translation>名称未設定</translation>
+        </message>
+        <message>
+            <source>Colour of “%1”</source>
+            <translation>「%1」の色</translation>
+        </message>
+        <message>
+            <source>Choose the Data Folder</source>
+            <translation>データフォルダを選ぶ</translation>
+        </message>
+        <message>
+            <source>Choose</source>
+            <translation>選択</translation>
+        </message>
+        <message>
+            <source>Penwick cannot keep its data in this folder.</source>
+            <translation>このフォルダにはデータを保存できません。</translation>
+        </message>
+        <message>
+            <source>The folder %1 cannot be written to. Choose a folder you may change.</source>
+            <translation>フォルダ %1 には書き込めません。書き込めるフォルダを選んでください。</translation>
+        </message>
+        <message>
+            <source>The data folder was not changed.</source>
+            <translation>データフォルダは変更されませんでした。</translation>
+        </message>
+        <message>
+            <source>Some months could not be saved in the current folder. They stay loaded so that nothing is lost; free some disk space or check the folder's permissions, then try again.</source>
+            <translation>現在のフォルダに保存できなかった月があります。失われないよう読み込んだままにしてあります。ディスクの空きを作るかフォルダのアクセス権を確かめてから、もう一度試してください。</translation>
+        </message>
+        <message>
+            <source>The new data folder needs attention.</source>
+            <translation>新しいデータフォルダに確認が必要です。</translation>
+        </message>
+        <message>
+            <source>The password is removed when you press OK.</source>
+            <translation>OK を押すとパスワードが解除されます。</translation>
+        </message>
+        <message>
+            <source>The new password is set when you press OK.</source>
+            <translation>OK を押すと新しいパスワードが設定されます。</translation>
+        </message>
+        <message>
+            <source>Renumbering the stored entries…</source>
+            <translation>保存されたデータの番号を付け直しています…</translation>
+        </message>
+        <message>
+            <source>The lists were not changed.</source>
+            <translation>リストは変更されませんでした。</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScriptApplication</name>
+        <message>
+            <source>Penwick is locked: enter the password in the program first.</source>
+            <translation>Penwick はロックされています。先にプログラムでパスワードを入力してください。</translation>
+        </message>
+        <message>
+            <source>The entry could not be booked: its month cannot be changed.</source>
+            <translation>データを記帳できませんでした: その月は変更できません。</translation>
+        </message>
+        <message>
+            <source>There is no month %1.</source>
+            <translation>%1 という月はありません。</translation>
+        </message>
+        <message>
+            <source>at index %1</source>
+            <translation>インデックス %1</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScriptDataList</name>
+        <message>
+            <source>Penwick is locked: enter the password in the program first.</source>
+            <translation>Penwick はロックされています。先にプログラムでパスワードを入力してください。</translation>
+        </message>
+        <message>
+            <source>There is no month %1.</source>
+            <translation>%1 という月はありません。</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScriptService</name>
+        <message>
+            <source>There is no session bus: %1</source>
+            <translation>セッションバスがありません: %1</translation>
+        </message>
+        <message>
+            <source>The scripting object could not be registered.</source>
+            <translation>スクリプト用のオブジェクトを登録できませんでした。</translation>
+        </message>
+        <message>
+            <source>Another program already answers scripts as %1.</source>
+            <translation>ほかのプログラムがすでに %1 としてスクリプトに応答しています。</translation>
         </message>
     </context>
     <context>
@@ -148,6 +1074,29 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
         <message>
             <source>Penwick could not wait for later launches: %1</source>
             <translation>Penwick は後から起動された要求を受け付けられませんでした: %1</translation>
+        </message>
+        <message>
+            <source>Another Penwick already works on the data folder "%1".</source>
+            <translation>ほかの Penwick がすでにデータフォルダ「%1」を使っています。</translation>
+        </message>
+    </context>
+    <context>
+        <name>StringUtility</name>
+        <message>
+            <source>Space Character</source>
+            <translation>　</translation>
+        </message>
+        <message>
+            <source>Kuten Character</source>
+            <translation>。</translation>
+        </message>
+        <message>
+            <source>Minus Character</source>
+            <translation>－</translation>
+        </message>
+        <message>
+            <source>Tilde Character</source>
+            <translation>〜</translation>
         </message>
     </context>
     <context>

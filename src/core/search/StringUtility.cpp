@@ -15,8 +15,12 @@ QString localizedSeparator(const char *key)
 QString commaSeparated(QStringView text)
 {
     QString result = replaceStringFrom(text.toString(), u" ", u",");
-    result = replaceStringFrom(std::move(result), localizedSeparator("Space Character"), u",");
-    return replaceStringFrom(std::move(result), localizedSeparator("Kuten Character"), u",");
+    result = replaceStringFrom(std::move(result),
+                               localizedSeparator(QT_TRANSLATE_NOOP("StringUtility", "Space Character")),
+                               u",");
+    return replaceStringFrom(std::move(result),
+                             localizedSeparator(QT_TRANSLATE_NOOP("StringUtility", "Kuten Character")),
+                             u",");
 }
 
 } // namespace
@@ -34,8 +38,12 @@ QList<int> separateDateKeyToArray(QStringView text)
     if (text.isEmpty())
         return days;
     QString normalised = commaSeparated(text);
-    normalised = replaceStringFrom(std::move(normalised), localizedSeparator("Minus Character"), u"-");
-    normalised = replaceStringFrom(std::move(normalised), localizedSeparator("Tilde Character"), u"-");
+    normalised = replaceStringFrom(
+        std::move(normalised),
+        localizedSeparator(QT_TRANSLATE_NOOP("StringUtility", "Minus Character")), u"-");
+    normalised = replaceStringFrom(
+        std::move(normalised),
+        localizedSeparator(QT_TRANSLATE_NOOP("StringUtility", "Tilde Character")), u"-");
 
     constexpr int lastDay = 31;
     const QStringList pieces = normalised.split(u',');

@@ -134,6 +134,15 @@ QMenuBar *KAppController::installMenuBar(QWidget *window)
     return bar;
 }
 
+namespace {
+void bringToFront(QWidget *window)
+{
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+} // namespace
+
 void KAppController::confirmPassword()
 {
     m_running = false;
@@ -158,13 +167,17 @@ void KAppController::startUp()
     m_running = true;
     updateMenuItems();
 
-    if (m_ledger->setUpFirstStart()) {
+    const bool firstStart = m_ledger->setUpFirstStart();
+    if (firstStart) {
         showPrefWindow();
         myPrefWinController->setFirstSetting(true);
     }
     registerMyNotifications();
     m_ledger->readListPreference();
     openStartWindows();
+    // A new user sets up the lists first: the preferences stay in front.
+    if (firstStart)
+        bringToFront(myPrefWinController);
 
     const QStringList waiting = std::exchange(m_filesWaitingForStart, {});
     for (const QString &path : waiting)
@@ -192,16 +205,6 @@ void KAppController::openStartWindows()
     if (settings.openWindow(Window::Balance))
         showBalanceListWindow();
 }
-
-
-namespace {
-void bringToFront(QWidget *window)
-{
-    window->show();
-    window->raise();
-    window->activateWindow();
-}
-} // namespace
 
 void KAppController::showInputWindow()
 {
