@@ -24,23 +24,26 @@ void addTruncated(QMap<int, int> &sums, int index, float amount)
 
 void DataList::calcSumOfData()
 {
-    m_grandTotal = 0;
+    // Each amount is a float, but a float sum of a month of them loses
+    // cents: totals are kept in double.
+    double grandTotal = 0;
     m_categorySum.clear();
     m_paywaySum.clear();
     for (const PaymentDataPtr &record : std::as_const(m_dataListArray)) {
         const float amount = record->amount();
-        m_grandTotal += amount;
+        grandTotal += amount;
         addTruncated(m_categorySum, record->category(), amount);
         addTruncated(m_paywaySum, record->payway(), amount);
     }
+    m_grandTotal = grandTotal;
 }
 
-float DataList::incomeTotal() const
+double DataList::incomeTotal() const
 {
-    return float(m_categorySum.value(LedgerController::incomeCategoryIndex(), 0));
+    return double(m_categorySum.value(LedgerController::incomeCategoryIndex(), 0));
 }
 
-float DataList::expendTotal() const
+double DataList::expendTotal() const
 {
     return m_grandTotal - incomeTotal();
 }
@@ -68,18 +71,20 @@ void DataList::extractList()
         return;
     }
     const int incomeIndex = m_extractKeyDict.incomeNumber.value_or(-1);
-    m_extractedTotal = 0;
-    m_extractedIncomeTotal = 0;
+    double spending = 0;
+    double income = 0;
     m_extractedArray.clear();
     for (const PaymentDataPtr &record : std::as_const(m_dataListArray)) {
         if (!record->isRequestedData(m_extractKeyDict))
             continue;
         m_extractedArray.append(record);
         if (record->category() == incomeIndex)
-            m_extractedIncomeTotal += record->amount();
+            income += record->amount();
         else
-            m_extractedTotal += record->amount();
+            spending += record->amount();
     }
+    m_extractedTotal = spending;
+    m_extractedIncomeTotal = income;
 }
 
 void DataList::extractAll()

@@ -25,11 +25,11 @@ public:
     // Recomputes the grand total and both sum tables.
     void calcSumOfData();
     // The sum of every amount, income included.
-    float grandTotal() const { return m_grandTotal; }
+    double grandTotal() const { return m_grandTotal; }
     // The sum of the income category, 0 when it has no record.
-    float incomeTotal() const;
+    double incomeTotal() const;
     // The grand total less the income.
-    float expendTotal() const;
+    double expendTotal() const;
     // One sum per item of the controller's category list, in index order.
     QList<int> categoryList() const;
     // Index to whole-number sum; truncated toward zero after every addition,
@@ -46,8 +46,8 @@ public:
     const PaymentArray &extractedArray() const { return m_extractedArray; }
     // After extractList: the selected spending; after extractAll: the grand
     // total, income included.
-    float extractedTotal() const { return m_extractedTotal; }
-    float extractedIncomeTotal() const { return m_extractedIncomeTotal; }
+    double extractedTotal() const { return m_extractedTotal; }
+    double extractedIncomeTotal() const { return m_extractedIncomeTotal; }
     void extractList();
     void extractAll();
 
@@ -69,11 +69,11 @@ protected:
     PaymentArray m_dataListArray;
 
 private:
-    float m_grandTotal = 0;
+    double m_grandTotal = 0;
     QMap<int, int> m_categorySum;
     QMap<int, int> m_paywaySum;
     ExtractKeyDict m_extractKeyDict;
     PaymentArray m_extractedArray;
-    float m_extractedTotal = 0;
-    float m_extractedIncomeTotal = 0;
+    double m_extractedTotal = 0;
+    double m_extractedIncomeTotal = 0;
 };

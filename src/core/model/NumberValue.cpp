@@ -1,6 +1,7 @@
 #include "model/NumberValue.h"
 
 #include <QByteArray>
+#include <QLocale>
 #include <QString>
 #include <QVariant>
 
@@ -142,4 +143,12 @@ double shortestDouble(float value)
     if (!std::isfinite(value))
         return double(value);
     return shortestText(value).toDouble();
+}
+
+QString amountText(double amount)
+{
+    // Amounts are single precision: cents are all they can hold faithfully.
+    const double cents = std::round(amount * 100.0) / 100.0;
+    const bool whole = cents == std::trunc(cents);
+    return QLocale().toString(cents, 'f', whole ? 0 : 2);
 }

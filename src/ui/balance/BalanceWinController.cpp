@@ -2,6 +2,7 @@
 
 #include "ledger/KController.h"
 #include "model/DataList.h"
+#include "model/NumberValue.h"
 #include "model/Notifications.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
@@ -20,20 +21,12 @@ namespace {
 
 constexpr int kMonthsShown = 12;
 
-// Amounts as the user booked them: whole numbers bare, cents when there are.
-QString amountText(float amount)
-{
-    const double value = amount;
-    const bool whole = std::fabs(value - std::round(value)) < 0.005;
-    return QLocale().toString(value, 'f', whole ? 0 : 2);
-}
-
 QLabel *addValueRow(QFormLayout *form, const QString &label, const QString &name)
 {
     auto *value = new QLabel(form->parentWidget());
     value->setObjectName(name);
     // Room for any household's sums, so the column never cuts a figure.
-    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(amountText(-99999999.99f)));
+    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(amountText(-99999999.99)));
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     form->addRow(label, value);
@@ -124,9 +117,9 @@ void BalanceWinController::showDataOfYear(int year, int month)
 
 void BalanceWinController::setDataToBox(Box &box)
 {
-    const float expense = box.list ? box.list->expendTotal() : 0;
-    const float income = box.list ? box.list->incomeTotal() : 0;
-    const float balance = income - expense;
+    const double expense = box.list ? box.list->expendTotal() : 0;
+    const double income = box.list ? box.list->incomeTotal() : 0;
+    const double balance = income - expense;
     box.expense->setText(amountText(expense));
     box.income->setText(amountText(income));
     box.balance->setText(amountText(balance));

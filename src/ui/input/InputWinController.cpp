@@ -38,7 +38,7 @@ constexpr int FixedRows = 3;
 // A value written back into an amount field. It must evaluate to itself
 // again, since every new total evaluates all fields: plain decimals, no
 // exponent, no digit grouping.
-QString amountText(double value)
+QString amountFieldText(double value)
 {
     if (!std::isfinite(value))
         return QString::number(value);
@@ -54,12 +54,6 @@ QString amountText(double value)
 QString categoryPlaceholder()
 {
     return QCoreApplication::translate("Localizable", "Category");
-}
-
-QString totalText(float total)
-{
-    const double value = total;
-    return QLocale().toString(value, 'f', std::floor(value) == value ? 0 : 2);
 }
 
 QLineEdit *dateField(QWidget *parent, int width, const QString &accessibleName)
@@ -630,16 +624,17 @@ void InputWinController::calcurateSum()
         if (amount->text().isEmpty())
             continue;
         const QString value =
-            amountText(NumberUtility::numberWithCalcurationStatement(amount->text()));
+            amountFieldText(NumberUtility::numberWithCalcurationStatement(amount->text()));
         if (value != amount->text())
             amount->setText(value);
     }
-    m_sumTF->setText(totalText(spendingTotal()));
+    m_sumTF->setText(amountText(spendingTotal()));
 }
 
-float InputWinController::spendingTotal() const
+double InputWinController::spendingTotal() const
 {
-    float total = 0;
+    // Each amount as it will be booked (a float), summed as the lists sum.
+    double total = 0;
     for (const InputRow *row : m_rows) {
         const QString text = control<QLineEdit>(row, InputRow::Amount)->text();
         if (text.isEmpty())
@@ -743,7 +738,7 @@ void InputWinController::fillFromDescription(InputRow *row, const DescriptionMem
     }
     auto *amount = control<QLineEdit>(row, InputRow::Amount);
     if (amount->text().isEmpty() || row->amountFromMemory) {
-        amount->setText(amountText(record.amount));
+        amount->setText(amountFieldText(record.amount));
         row->amountFromMemory = true;
     }
     calcurateSum();

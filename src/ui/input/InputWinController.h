@@ -102,7 +102,7 @@ private:
     void setRowDate(InputRow *row, const QDate &date);
     QDate rowDate(const InputRow *row) const;
     bool isRowEmpty(const InputRow *row) const;
-    float spendingTotal() const;
+    double spendingTotal() const;
     void bookInputData();
     void selectDescription(InputRow *row, int index);
     void descriptionEditingEnded(InputRow *row);

@@ -114,14 +114,6 @@ QString DataListTableModel::nameAt(const QStringList &names, int index) const
     return index >= 0 && index < names.size() ? names.at(index) : QString();
 }
 
-QString DataListTableModel::formatAmount(double amount)
-{
-    // Amounts are single precision: cents are all they can hold faithfully.
-    const double cents = std::round(amount * 100.0) / 100.0;
-    const bool whole = cents == std::trunc(cents);
-    return QLocale().toString(cents, 'f', whole ? 0 : 2);
-}
-
 QVariant DataListTableModel::data(const QModelIndex &index, int role) const
 {
     const PaymentDataPtr record = dataAtIndex(index.row());
@@ -136,7 +128,7 @@ QVariant DataListTableModel::data(const QModelIndex &index, int role) const
         case PaywayColumn:
             return nameAt(m_payways, record->payway());
         case AmountColumn:
-            return formatAmount(record->amount());
+            return amountText(record->amount());
         case DetailsColumn:
             return record->details();
         case DateColumn:

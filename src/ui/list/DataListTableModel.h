@@ -55,8 +55,6 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
-    // How amounts are shown: group separators, cents only when there are any.
-    static QString formatAmount(double amount);
 
 private:
     static QVariant columnAlignment(int column);

@@ -580,24 +580,24 @@ void ListWinController::reloadData()
     const DataList *list = m_currentDataList.get();
     if (!list)
         return;
-    const float expend = list->expendTotal();
-    const float income = list->incomeTotal();
-    m_expendTotalTF->setText(DataListTableModel::formatAmount(expend));
-    m_incomeTotalTF->setText(DataListTableModel::formatAmount(income));
-    m_balanceTF->setText(DataListTableModel::formatAmount(income - expend));
-    m_extractedTotalTF->setText(DataListTableModel::formatAmount(list->extractedTotal()));
+    const double expend = list->expendTotal();
+    const double income = list->incomeTotal();
+    m_expendTotalTF->setText(amountText(expend));
+    m_incomeTotalTF->setText(amountText(income));
+    m_balanceTF->setText(amountText(income - expend));
+    m_extractedTotalTF->setText(amountText(list->extractedTotal()));
     // The share is taken of the amounts as shown.
     const double shownExpend = shownAmount(expend);
     const double rate =
         shownExpend != 0 ? shownAmount(list->extractedTotal()) / shownExpend * 100.0 : 0.0;
     m_extractedRateTF->setText(tr("%1 %").arg(QLocale().toString(rate, 'f', 1)));
-    m_extractedBalanceTF->setText(DataListTableModel::formatAmount(
+    m_extractedBalanceTF->setText(amountText(
         list->extractedIncomeTotal() - list->extractedTotal()));
 
     const QDate previous = QDate(year(), month(), 1).addMonths(-1);
     const auto last = m_controller->listForYear(previous.year(), previous.month(), true);
     const QString balance =
-        last ? DataListTableModel::formatAmount(last->incomeTotal() - last->expendTotal()) : QString();
+        last ? amountText(last->incomeTotal() - last->expendTotal()) : QString();
     // The translation may place the value itself; otherwise it follows.
     const QString label = QCoreApplication::translate("Localizable", "Balance of last month");
     m_totalsBox->setToolTip(label.contains(u"%1") ? label.arg(balance)
