@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
-# Starts the real program on an X server (run under xvfb-run) with a home of
-# its own, and checks what a user would: a window appears, a second launch on
-# the same data folder hands over and exits, the program quits cleanly when
-# told to, and a killed instance does not lock the folder for the next one.
+# Starts the real program on an X server and a session bus of its own (run
+# under xvfb-run and dbus-run-session) with a home of its own, and checks what
+# a user would: its windows appear, a second launch on the same data folder
+# hands over and exits, scripts reach it, the program quits cleanly when told
+# to, and a killed instance does not lock the folder for the next one.
 set -euo pipefail
 
 app=$1
+ctl=$2
 scratch=$(mktemp -d)
 pids=()
 cleanup() {
@@ -49,6 +51,26 @@ stop() {
   [[ $status -eq 0 ]] || fail "exit status $status after SIGTERM"
 }
 
+# A first start: the preferences greet the user, the input window opens too.
+start
+first=$last_pid
+wait_for_window "Preferences"
+wait_for_window "Book Entries"
+folder=$(sed -n 's/^DataPath=//p' "$XDG_CONFIG_HOME/Penwick/Penwick.conf")
+[[ -f $folder/Data.penwick ]] || fail "the first start wrote no list file"
+
+# A month file opened from the desktop shows in the list window.
+timeout 15 "$app" "$folder/Data_2006_5.Penwick" || fail "the second launch did not hand over"
+wait_for_window "May 2006"
+
+# Scripts: book an entry and read it back.
+[[ $("$ctl" categories | wc -l) -eq 14 ]] || fail "penwickctl categories"
+"$ctl" book --amount 1250 --category 1 --details "Smoke test" --year 2006 --month 5 --date 7 >/dev/null \
+  || fail "penwickctl book"
+[[ -f $folder/Data_2006_5.Penwick ]] || fail "booking by script wrote no month file"
+"$ctl" list 200605 | grep -q "Smoke test" || fail "penwickctl list does not show the booked entry"
+stop "$first"
+
 # Locked with a password: the prompt is the only window, and the program
 # still serves later launches.
 cat >"$XDG_CONFIG_HOME/Penwick/Penwick.conf" <<CONF
@@ -66,6 +88,8 @@ wait_for_window "Password"
 timeout 15 "$app" "$HOME/data/Data_2006_5.Penwick" || fail "the second launch did not hand over"
 kill -0 "$first" 2>/dev/null || fail "the first instance ended when the second launched"
 [[ ! -e $HOME/data/Data_2006_5.Penwick ]] || fail "a month was read before the password was given"
+if "$ctl" categories 2>"$scratch/ctl.err"; then fail "a locked program answered a script"; fi
+grep -q "locked" "$scratch/ctl.err" || fail "a locked program did not say so"
 
 stop "$first"
 [[ ! -e $HOME/data/.penwick.lock ]] || fail "the lock outlived the program"

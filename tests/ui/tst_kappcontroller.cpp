@@ -1,6 +1,12 @@
 #include "TestDataFolder.h"
 
 #include "app/KAppController.h"
+#include "balance/BalanceWinController.h"
+#include "graph/GraphWinController.h"
+#include "input/InputRow.h"
+#include "input/InputWinController.h"
+#include "list/ListWinController.h"
+#include "prefs/PrefWinController.h"
 #include "ledger/KController.h"
 #include "password/ConfirmPassPanelController.h"
 #include "security/PasswordLock.h"
@@ -40,9 +46,11 @@ void closeTopLevels()
 
 QAction *actionWithTag(QMenuBar *bar, int tag)
 {
-    for (QAction *action : bar->findChildren<QAction *>()) {
-        if (action->data().toInt() == tag)
-            return action;
+    for (QAction *menu : bar->actions()) {
+        for (QAction *action : menu->menu()->actions()) {
+            if (action->data().toInt() == tag)
+                return action;
+        }
     }
     return nullptr;
 }
@@ -62,6 +70,10 @@ private slots:
     void firstStartSetsUpTheDataFolder();
     void openFileTakesOnlyMonthFiles();
     void storeProblemsAreToldOncePerFile();
+    void startWindowsFollowTheSettings();
+    void firstStartOpensPreferencesAndInput();
+    void openedMonthFileShowsInTheListWindow();
+    void typedInputHoldsTheQuit();
     void everyWindowGetsTheMenu();
 
 private:
@@ -180,6 +192,71 @@ void TestKAppController::storeProblemsAreToldOncePerFile()
     QCOMPARE(front.findChildren<QMessageBox *>().size(), 3);
 }
 
+void TestKAppController::startWindowsFollowTheSettings()
+{
+    {
+        QSettings raw(u"Penwick"_s, u"Penwick"_s);
+        raw.setValue(u"OpenWindow_0"_s, false);
+        for (const QString &key : {u"OpenWindow_1"_s, u"OpenWindow_2"_s, u"OpenWindow_3"_s})
+            raw.setValue(key, true);
+    }
+    KAppController controller;
+    controller.confirmPassword();
+    QCOMPARE(visibleTopLevels<GraphWinController>().size(), 1);
+    QCOMPARE(visibleTopLevels<ListWinController>().size(), 1);
+    QCOMPARE(visibleTopLevels<BalanceWinController>().size(), 1);
+    QVERIFY(visibleTopLevels<InputWinController>().isEmpty());
+
+    // Every window carries the application's items, enabled now.
+    auto *list = visibleTopLevels<ListWinController>().constFirst();
+    QAction *input = actionWithTag(list->menuBar(), KAppController::InputWindowTag);
+    QVERIFY(input && input->isEnabled());
+    input->trigger();
+    QCOMPARE(visibleTopLevels<InputWinController>().size(), 1);
+}
+
+void TestKAppController::firstStartOpensPreferencesAndInput()
+{
+    QSettings(u"Penwick"_s, u"Penwick"_s).clear();
+    KAppController controller;
+    controller.confirmPassword();
+    const auto preferences = visibleTopLevels<PrefWinController>();
+    QCOMPARE(preferences.size(), 1);
+    QVERIFY(preferences.first()->firstSetting());
+    QCOMPARE(visibleTopLevels<InputWinController>().size(), 1);
+}
+
+void TestKAppController::openedMonthFileShowsInTheListWindow()
+{
+    KAppController controller;
+    // Given before the program has started: it waits, then shows.
+    QVERIFY(controller.openFile(u"/elsewhere/Data_2006_5.Penwick"_s));
+    QVERIFY(visibleTopLevels<ListWinController>().isEmpty());
+    controller.confirmPassword();
+    auto lists = visibleTopLevels<ListWinController>();
+    QCOMPARE(lists.size(), 1);
+    QCOMPARE(lists.first()->year(), 2006);
+    QCOMPARE(lists.first()->month(), 5);
+
+    QVERIFY(controller.openFile(m_home.filePath(u"Data_2007_12.Penwick"_s)));
+    QCOMPARE(visibleTopLevels<ListWinController>().size(), 1);
+    QCOMPARE(lists.first()->year(), 2007);
+    QCOMPARE(lists.first()->month(), 12);
+}
+
+void TestKAppController::typedInputHoldsTheQuit()
+{
+    KAppController controller;
+    controller.confirmPassword();
+    QVERIFY(controller.applicationShouldTerminate());
+    auto *input = visibleTopLevels<InputWinController>().constFirst();
+    auto *amount = qobject_cast<QLineEdit *>(input->getControlWithTag(InputRow::tagFor(1, InputRow::Amount)));
+    QTest::keyClicks(amount, u"1200"_s);
+    QVERIFY(!controller.applicationShouldTerminate());
+    // The input window asks what to do with it, in a sheet of its own.
+    QTRY_VERIFY(input->findChild<QMessageBox *>() && input->findChild<QMessageBox *>()->isVisible());
+}
+
 void TestKAppController::everyWindowGetsTheMenu()
 {
     KAppController controller;
@@ -191,8 +268,9 @@ void TestKAppController::everyWindowGetsTheMenu()
     for (QAction *menu : bar->actions())
         titles.append(menu->text());
     QCOMPARE(titles, (QStringList{u"&File"_s, u"&Window"_s, u"&Help"_s}));
-    QVERIFY(!actionWithTag(bar, KAppController::ListWindowTag)
-            || !actionWithTag(bar, KAppController::ListWindowTag)->isEnabled());
+    // Before start-up the windows' items are there but cannot be chosen.
+    QAction *list = actionWithTag(bar, KAppController::ListWindowTag);
+    QVERIFY(list && !list->isEnabled());
 }
 
 QTEST_MAIN(TestKAppController)

@@ -293,10 +293,12 @@ void KAppController::showPrefWindow()
     if (!m_running)
         return;
     if (!myPrefWinController) {
+        // A dialog: it carries no menu bar of its own.
         myPrefWinController = new PrefWinController(m_ledger.get());
-        installMenuBar(myPrefWinController);
         connect(myPrefWinController, &PrefWinController::dataFolderChanged, this,
                 &KAppController::dataFolderChanged);
+        connect(myPrefWinController, &PrefWinController::showInputWindowRequested, this,
+                &KAppController::showInputWindow);
     }
     bringToFront(myPrefWinController);
 }
