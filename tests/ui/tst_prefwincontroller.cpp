@@ -87,6 +87,7 @@ private slots:
     void cancelDropsEveryEdit();
     void okWritesTheSettingsAndAnnouncesThem();
     void aRefusedConversionKeepsTheWindowOpen();
+    void missingColoursAreWrittenBlack();
     void changingTheDataFolderSavesFirst();
     void closingTheFirstSettingAsksForTheInputWindow();
     void aChosenPasswordIsStoredOnlyOnOk();
@@ -299,6 +300,19 @@ void TestPrefWinController::aRefusedConversionKeepsTheWindowOpen()
     QCOMPARE(readBytes(DataFolder::filePathForYear(m_folder, 2006, 5)), may);
     QCOMPARE(storedNames(m_folder, ListFile::CategoryList), kCategories);
     QCOMPARE(categories()->editor().names(), (QStringList{u"Rent"_s, u"Fun"_s, u"Food"_s}));
+}
+
+void TestPrefWinController::missingColoursAreWrittenBlack()
+{
+    const QByteArray red = ColorArchive::initialColors(4).at(3);
+    QVERIFY(ListFile::setPreferenceDataListForKey(m_folder, {red}, ListFile::ColorList));
+    m_window = std::make_unique<PrefWinController>(m_controller.get());
+    m_window->show();
+    pressOk();
+    const QVariantList colors = ListFile::preferenceDataListForKey(m_folder, ListFile::ColorList);
+    QCOMPARE(colors.size(), kCategories.size());
+    QCOMPARE(colors.at(0).toByteArray(), red);
+    QCOMPARE(ListEditorModel::colorFromArchive(colors.at(2).toByteArray()), QColor(Qt::black));
 }
 
 void TestPrefWinController::changingTheDataFolderSavesFirst()

@@ -265,7 +265,14 @@ void PrefWinController::readListFromDefault()
     QString income = incomeName();
     if (!categories.isEmpty())
         income = categories.takeLast();
-    ListEditor categoryEditor(categories, colors.mid(0, categories.size()));
+    // A list file from elsewhere may lack colours; those categories get black
+    // rather than no colour at all.
+    colors.resize(categories.size());
+    for (QByteArray &color : colors) {
+        if (color.isEmpty())
+            color = ListEditorModel::archiveFromColor(Qt::black);
+    }
+    ListEditor categoryEditor(categories, colors);
     categoryEditor.setReservedNames({income, incomeName()});
     m_categoryModel->setEditor(categoryEditor);
     m_paywayModel->setEditor(
