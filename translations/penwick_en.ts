@@ -407,6 +407,10 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
             <source>&amp;Preferences…</source>
             <translation>&amp;Preferences…</translation>
         </message>
+        <message>
+            <source>A change of the category and payway lists could not be finished.</source>
+            <translation>A change of the category and payway lists could not be finished.</translation>
+        </message>
     </context>
     <context>
         <name>KController</name>

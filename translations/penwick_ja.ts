@@ -406,6 +406,10 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
             <source>&amp;Preferences…</source>
             <translation>環境設定…(&amp;P)</translation>
         </message>
+        <message>
+            <source>A change of the category and payway lists could not be finished.</source>
+            <translation>分類と支払い方法のリストの変更を完了できませんでした。</translation>
+        </message>
     </context>
     <context>
         <name>KController</name>

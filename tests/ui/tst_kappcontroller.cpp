@@ -74,6 +74,7 @@ private slots:
     void firstStartOpensPreferencesAndInput();
     void openedMonthFileShowsInTheListWindow();
     void typedInputHoldsTheQuit();
+    void unfinishedListChangeIsReportedAtStart();
     void everyWindowGetsTheMenu();
 
 private:
@@ -255,6 +256,23 @@ void TestKAppController::typedInputHoldsTheQuit()
     QVERIFY(!controller.applicationShouldTerminate());
     // The input window asks what to do with it, in a sheet of its own.
     QTRY_VERIFY(input->findChild<QMessageBox *>() && input->findChild<QMessageBox *>()->isVisible());
+}
+
+void TestKAppController::unfinishedListChangeIsReportedAtStart()
+{
+    // The record a crashed renumbering leaves behind, damaged.
+    QFile journal(m_home.filePath(u".penwick-conversion"_s));
+    QVERIFY(journal.open(QIODevice::WriteOnly));
+    journal.write("{ not json");
+    journal.close();
+
+    KAppController controller;
+    controller.confirmPassword();
+    QVERIFY(controller.running());
+    const auto boxes = visibleTopLevels<QMessageBox>();
+    QCOMPARE(boxes.size(), 1);
+    QVERIFY(boxes.first()->text().contains(u"could not be finished"_s));
+    QVERIFY(boxes.first()->informativeText().contains(u".penwick-conversion"_s));
 }
 
 void TestKAppController::everyWindowGetsTheMenu()

@@ -167,6 +167,12 @@ void KAppController::startUp()
     m_running = true;
     updateMenuItems();
 
+    // A change of the lists cut short by a crash is finished before any
+    // month is read; if it cannot be, the controller keeps the folder safe
+    // and the user is told why.
+    if (QString problem; !m_ledger->finishInterruptedConversion(&problem))
+        report(tr("A change of the category and payway lists could not be finished."), problem);
+
     const bool firstStart = m_ledger->setUpFirstStart();
     if (firstStart) {
         showPrefWindow();
