@@ -28,9 +28,12 @@ struct Ledger
     }
 };
 
-// Back and forth between two months already loaded.
+// Back and forth between two months already loaded; with the argument 1
+// the whole window is then drawn into an image, as a paint of the screen
+// would draw it.
 void BM_SwitchMonth(benchmark::State &state)
 {
+    const bool paint = state.range(0) != 0;
     Ledger ledger;
     ListWinController window(&ledger.controller);
     window.show();
@@ -40,29 +43,12 @@ void BM_SwitchMonth(benchmark::State &state)
     for (auto _ : state) {
         month = month == 5 ? 6 : 5;
         window.showListOfYear(2006, month);
+        if (paint)
+            benchmark::DoNotOptimize(window.grab());
         benchmark::DoNotOptimize(window.currentDataList());
     }
 }
-BENCHMARK(BM_SwitchMonth)->Unit(benchmark::kMillisecond);
-
-// The same, with the whole window then drawn into an image, as a paint
-// of the screen would draw it.
-void BM_SwitchMonthAndPaint(benchmark::State &state)
-{
-    Ledger ledger;
-    ListWinController window(&ledger.controller);
-    window.show();
-    window.showListOfYear(2006, 6);
-    window.showListOfYear(2006, 5);
-    int month = 5;
-    for (auto _ : state) {
-        month = month == 5 ? 6 : 5;
-        window.showListOfYear(2006, month);
-        benchmark::DoNotOptimize(window.grab());
-        benchmark::DoNotOptimize(window.currentDataList());
-    }
-}
-BENCHMARK(BM_SwitchMonthAndPaint)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SwitchMonth)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 // The same, each month read from its file first.
 void BM_SwitchMonthFromFile(benchmark::State &state)

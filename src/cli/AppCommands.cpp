@@ -153,16 +153,15 @@ int runOnMonth(const QString &command, const QString &monthText, const QString &
     return CommandLine::Success;
 }
 
-// Names or indices, separated by commas, as the indices in a text the
-// program reads ("2 5").
-std::optional<QString> indicesText(const QString &command, const QString &given,
+// Names or indices as the indices in a text the program reads ("2 5").
+std::optional<QString> indicesText(const QString &command, const QStringList &given,
                                    const QString &method, const QString &what)
 {
     const auto list = names(command, method);
     if (!list)
         return std::nullopt;
     QStringList indices;
-    for (const QString &item : given.split(u',', Qt::SkipEmptyParts)) {
+    for (const QString &item : given) {
         const auto index = AppCommands::indexOf(item.trimmed(), *list);
         if (!index) {
             CommandLine::printError(AppCommands::tr("%1: unknown %2 '%3'; there are: %4")
@@ -221,32 +220,34 @@ std::optional<int> AppCommands::indexOf(const QString &nameOrIndex, const QStrin
     return found;
 }
 
-int AppCommands::categories(const QStringList &arguments)
+namespace {
+// categories and payways: one list of names, printed in order.
+int printNameList(const QString &command, const QString &description, const QString &method,
+                  const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr("Prints the category names, in order; the last is income."));
+    parser.setApplicationDescription(description);
     parser.addOption(jsonOption);
-    if (const auto status = CommandLine::parse(parser, u"categories"_s, arguments))
+    if (const auto status = CommandLine::parse(parser, command, arguments))
         return *status;
-    const auto list = names(u"categories"_s, u"CategoryNames"_s);
+    const auto list = names(command, method);
     if (!list)
         return CommandLine::Failure;
     printNames(*list, parser.isSet(jsonOption));
     return CommandLine::Success;
 }
+} // namespace
+
+int AppCommands::categories(const QStringList &arguments)
+{
+    return printNameList(u"categories"_s, tr("Prints the category names, in order; the last is income."),
+                         u"CategoryNames"_s, arguments);
+}
 
 int AppCommands::payways(const QStringList &arguments)
 {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(tr("Prints the payway names, in order."));
-    parser.addOption(jsonOption);
-    if (const auto status = CommandLine::parse(parser, u"payways"_s, arguments))
-        return *status;
-    const auto list = names(u"payways"_s, u"PaywayNames"_s);
-    if (!list)
-        return CommandLine::Failure;
-    printNames(*list, parser.isSet(jsonOption));
-    return CommandLine::Success;
+    return printNameList(u"payways"_s, tr("Prints the payway names, in order."), u"PaywayNames"_s,
+                         arguments);
 }
 
 int AppCommands::show(const QStringList &arguments)
@@ -311,16 +312,11 @@ int AppCommands::book(const QStringList &arguments)
           std::tuple{&payway, u"payway"_s, u"PaywayNames"_s, tr("payway")}}) {
         if (!parser.isSet(*option))
             continue;
-        const auto list = names(command, method);
-        if (!list)
+        // One item only: a comma belongs to the name.
+        const auto index = indicesText(command, {parser.value(*option)}, method, what);
+        if (!index)
             return CommandLine::Failure;
-        const auto index = indexOf(parser.value(*option), *list);
-        if (!index) {
-            CommandLine::printError(tr("%1: unknown %2 '%3'; there are: %4")
-                                        .arg(command, what, parser.value(*option), list->join(u", "_s)));
-            return CommandLine::Failure;
-        }
-        fields.insert(key, *index);
+        fields.insert(key, index->toInt());
     }
 
     const auto reply = callApplication(command, u"MakeNewPaymentData"_s, {fields});
@@ -378,7 +374,8 @@ int AppCommands::search(const QStringList &arguments)
           std::tuple{&payway, u"Payway"_s, u"PaywayNames"_s, tr("payway")}}) {
         if (!parser.isSet(*option))
             continue;
-        const auto text = indicesText(command, parser.value(*option), method, what);
+        const auto text = indicesText(command, parser.value(*option).split(u',', Qt::SkipEmptyParts),
+                                      method, what);
         if (!text)
             return CommandLine::Failure;
         keys.insert(key, *text);

@@ -14,7 +14,7 @@
 
 PaymentData::Key PaymentData::keyFromName(QStringView name)
 {
-    // Compared in the order of the design's key table; exact case.
+    // Compared in the order of the keys' table; exact case.
     if (name == u"Date")
         return Key::Date;
     if (name == u"Month")
