@@ -71,12 +71,12 @@ BalanceWinController::BalanceWinController(KController *controller, QWidget *par
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_scrollView);
 
-    // A narrow column: as wide as a box needs, and a few boxes high.
+    // A narrow column: as wide as a box needs, and half a year high.
     const int width =
         listView->sizeHint().width() + m_scrollView->verticalScrollBar()->sizeHint().width();
     setMinimumWidth(width);
     setMaximumWidth(width * 2);
-    resize(width, m_boxes.constFirst().box->sizeHint().height() * 4);
+    resize(width, m_boxes.constFirst().box->sizeHint().height() * 6);
     restoreGeometry(Settings().savedLayout(SettingsKeys::BalanceWindow));
 
     connect(Notifications::instance(), &Notifications::dataListHasChanged, this,
