@@ -7,8 +7,6 @@
 #include "ledger/KController.h"
 #include "settings/Settings.h"
 
-#include <QCoreApplication>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -64,13 +62,3 @@ BENCHMARK(BM_RenumberRepeatedlyInOneFolder)
     ->Iterations(3);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    QCoreApplication app(argc, argv); // the store's save timer needs one
-    QStandardPaths::setTestModeEnabled(true);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

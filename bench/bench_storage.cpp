@@ -10,9 +10,7 @@
 #include "storage/MonthFile.h"
 #include "storage/TypedStreamReader.h"
 
-#include <QCoreApplication>
 #include <QFile>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -110,13 +108,3 @@ void BM_ResaveAllDataFileThirtyYears(benchmark::State &state)
 BENCHMARK(BM_ResaveAllDataFileThirtyYears)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    QCoreApplication app(argc, argv); // the store's save timer needs one
-    QStandardPaths::setTestModeEnabled(true);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

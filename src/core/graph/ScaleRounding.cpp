@@ -12,41 +12,44 @@ qint64 powerOfTen(int digits)
     return limit;
 }
 
+// n with its last digits dropped until it is no more than limit, and the
+// power of ten that was dropped.
+struct Shortened
+{
+    qint64 kept;
+    qint64 multiplier;
+};
+
+Shortened shortenTo(qint64 n, qint64 limit)
+{
+    qint64 multiplier = 1;
+    while (n > limit) {
+        n /= 10;
+        multiplier *= 10;
+    }
+    return {n, multiplier};
+}
+
 } // namespace
 
 qint64 roundUpMax(qint64 n)
 {
-    qint64 multiplier = 1;
-    while (n > 100) {
-        n /= 10;
-        multiplier *= 10;
-    }
-    return (n + 1) * multiplier;
+    return roundUp(n, 2);
 }
 
 qint64 roundUp(qint64 n, int digits)
 {
-    const qint64 limit = powerOfTen(digits);
-    qint64 multiplier = 1;
-    while (n > limit) {
-        n /= 10;
-        multiplier *= 10;
-    }
-    return (n + 1) * multiplier;
+    const Shortened shortened = shortenTo(n, powerOfTen(digits));
+    return (shortened.kept + 1) * shortened.multiplier;
 }
 
 qint64 roundK(qint64 n, int digits)
 {
-    const qint64 limit = powerOfTen(digits);
-    qint64 multiplier = 1;
-    while (n > limit) {
-        n /= 10;
-        multiplier *= 10;
-    }
+    Shortened shortened = shortenTo(n, powerOfTen(digits));
     // Looks at the last digit kept, not the first one dropped.
-    if (n % 10 >= 5)
-        n += 1;
-    return n * multiplier;
+    if (shortened.kept % 10 >= 5)
+        shortened.kept += 1;
+    return shortened.kept * shortened.multiplier;
 }
 
 QList<qint64> amountAxisValues(qint64 max, int count)
