@@ -328,6 +328,10 @@
             <source>&amp;Book</source>
             <translation>&amp;Book</translation>
         </message>
+        <message>
+            <source>Some entries were not booked and are still here.</source>
+            <translation>Some entries were not booked and are still here.</translation>
+        </message>
     </context>
     <context>
         <name>KAppController</name>
@@ -411,6 +415,82 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
             <source>A change of the category and payway lists could not be finished.</source>
             <translation>A change of the category and payway lists could not be finished.</translation>
         </message>
+        <message>
+            <source>Some months could not be saved.</source>
+            <translation>Some months could not be saved.</translation>
+        </message>
+        <message>
+            <source>%1
+
+Free some disk space or check the folder's permissions and try again, or save a copy of these months elsewhere and bring it back later.</source>
+            <translation>%1
+
+Free some disk space or check the folder's permissions and try again, or save a copy of these months elsewhere and bring it back later.</translation>
+        </message>
+        <message>
+            <source>Try Again</source>
+            <translation>Try Again</translation>
+        </message>
+        <message>
+            <source>Save a Copy…</source>
+            <translation>Save a Copy…</translation>
+        </message>
+        <message>
+            <source>Quit Without Saving</source>
+            <translation>Quit Without Saving</translation>
+        </message>
+        <message>
+            <source>The copy could not be saved either.</source>
+            <translation>The copy could not be saved either.</translation>
+        </message>
+        <message>
+            <source>Months that could not be saved on %1 were kept.</source>
+            <translation>Months that could not be saved on %1 were kept.</translation>
+        </message>
+        <message>
+            <source>%1
+
+They are in %2. Bring them back into the data folder now?</source>
+            <translation>%1
+
+They are in %2. Bring them back into the data folder now?</translation>
+        </message>
+        <message>
+            <source>Bring Back</source>
+            <translation>Bring Back</translation>
+        </message>
+        <message>
+            <source>Not Now</source>
+            <translation>Not Now</translation>
+        </message>
+        <message>
+            <source>Discard…</source>
+            <translation>Discard…</translation>
+        </message>
+        <message>
+            <source>Not every kept month could be brought back; the copy stays.</source>
+            <translation>Not every kept month could be brought back; the copy stays.</translation>
+        </message>
+        <message>
+            <source>Throw the kept months away for good?</source>
+            <translation>Throw the kept months away for good?</translation>
+        </message>
+        <message>
+            <source>Throw Away</source>
+            <translation>Throw Away</translation>
+        </message>
+        <message>
+            <source>The category and payway lists could not be read.</source>
+            <translation>The category and payway lists could not be read.</translation>
+        </message>
+        <message>
+            <source>%1
+
+The file "%2" is left exactly as it is, and nothing can be booked until it is mended or replaced.</source>
+            <translation>%1
+
+The file "%2" is left exactly as it is, and nothing can be booked until it is mended or replaced.</translation>
+        </message>
     </context>
     <context>
         <name>KController</name>
@@ -453,6 +533,26 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
         <message>
             <source>A change of the category and payway lists was interrupted and could not be finished: %1</source>
             <translation>A change of the category and payway lists was interrupted and could not be finished: %1</translation>
+        </message>
+        <message>
+            <source>The category and payway lists are being changed; the month is saved as soon as that is done.</source>
+            <translation>The category and payway lists are being changed; the month is saved as soon as that is done.</translation>
+        </message>
+        <message>
+            <source>Nothing can be booked until the list file is mended. %1</source>
+            <translation>Nothing can be booked until the list file is mended. %1</translation>
+        </message>
+        <message>
+            <source>There is no month %1 in year %2.</source>
+            <translation>There is no month %1 in year %2.</translation>
+        </message>
+        <message>
+            <source>The file of %1/%2 could not be read, so nothing can be added to it.</source>
+            <translation>The file of %1/%2 could not be read, so nothing can be added to it.</translation>
+        </message>
+        <message>
+            <source>The category and payway lists are being changed; try again when that is done.</source>
+            <translation>The category and payway lists are being changed; try again when that is done.</translation>
         </message>
     </context>
     <context>
@@ -726,6 +826,10 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
         <message>
             <source>The PDF could not be written to %1.</source>
             <translation>The PDF could not be written to %1.</translation>
+        </message>
+        <message>
+            <source>Not saved: %1. Penwick tries again every 30 seconds and at every change.</source>
+            <translation>Not saved: %1. Penwick tries again every 30 seconds and at every change.</translation>
         </message>
     </context>
     <context>
@@ -1118,6 +1222,137 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
         <message>
             <source>%1 is not a month file of Penwick; it is left alone.</source>
             <translation>%1 is not a month file of Penwick; it is left alone.</translation>
+        </message>
+    </context>
+    <context>
+        <name>DurableFile</name>
+        <message>
+            <source>%1 could not be written: %2</source>
+            <translation>%1 could not be written: %2</translation>
+        </message>
+        <message>
+            <source>%1 could not be replaced: %2</source>
+            <translation>%1 could not be replaced: %2</translation>
+        </message>
+        <message>
+            <source>The folder %1 could not be written to disk: %2</source>
+            <translation>The folder %1 could not be written to disk: %2</translation>
+        </message>
+    </context>
+    <context>
+        <name>EntryCheck</name>
+        <message>
+            <source>The %1 "%2" is not a whole number.</source>
+            <translation>The %1 "%2" is not a whole number.</translation>
+        </message>
+        <message>
+            <source>The year %1 is not within %2 to %3.</source>
+            <translation>The year %1 is not within %2 to %3.</translation>
+        </message>
+        <message>
+            <source>category</source>
+            <translation>category</translation>
+        </message>
+        <message>
+            <source>payway</source>
+            <translation>payway</translation>
+        </message>
+        <message>
+            <source>There is no %1 %2; there are %3, counted from 0.</source>
+            <translation>There is no %1 %2; there are %3, counted from 0.</translation>
+        </message>
+        <message>
+            <source>The amount "%1" is not a number.</source>
+            <translation>The amount "%1" is not a number.</translation>
+        </message>
+        <message>
+            <source>The amount %1 is not a finite number an entry can hold.</source>
+            <translation>The amount %1 is not a finite number an entry can hold.</translation>
+        </message>
+        <message>
+            <source>The details are not a text.</source>
+            <translation>The details are not a text.</translation>
+        </message>
+        <message>
+            <source>The month %1 is not within 1 to 12.</source>
+            <translation>The month %1 is not within 1 to 12.</translation>
+        </message>
+        <message>
+            <source>The day %1 is not within 1 to %2 of %3/%4.</source>
+            <translation>The day %1 is not within 1 to %2 of %3/%4.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ListFile</name>
+        <message>
+            <source>it has no %1</source>
+            <translation>it has no %1</translation>
+        </message>
+        <message>
+            <source>its %1 is not a list of names</source>
+            <translation>its %1 is not a list of names</translation>
+        </message>
+        <message>
+            <source>its %1 is empty</source>
+            <translation>its %1 is empty</translation>
+        </message>
+        <message>
+            <source>its %1 is not a list of colours</source>
+            <translation>its %1 is not a list of colours</translation>
+        </message>
+        <message>
+            <source>it holds no dictionary</source>
+            <translation>it holds no dictionary</translation>
+        </message>
+        <message>
+            <source>The list file %1 cannot be read: %2</source>
+            <translation>The list file %1 cannot be read: %2</translation>
+        </message>
+    </context>
+    <context>
+        <name>RescueFolder</name>
+        <message>
+            <source>The folder %1 could not be made.</source>
+            <translation>The folder %1 could not be made.</translation>
+        </message>
+        <message>
+            <source>the name does not stand for a month</source>
+            <translation>the name does not stand for a month</translation>
+        </message>
+        <message>
+            <source>there is no such month</source>
+            <translation>there is no such month</translation>
+        </message>
+        <message>
+            <source>the month's own file cannot be read</source>
+            <translation>the month's own file cannot be read</translation>
+        </message>
+        <message>
+            <source>%1: brought back as it was</source>
+            <translation>%1: brought back as it was</translation>
+        </message>
+        <message>
+            <source>%1: its file had changed since, so the entries it lacked were added</source>
+            <translation>%1: its file had changed since, so the entries it lacked were added</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScriptCommands</name>
+        <message>
+            <source>The entry could not be booked: the file of its month cannot be read.</source>
+            <translation>The entry could not be booked: the file of its month cannot be read.</translation>
+        </message>
+        <message>
+            <source>The entry was not booked: %1</source>
+            <translation>The entry was not booked: %1</translation>
+        </message>
+        <message>
+            <source>There is no month %1.</source>
+            <translation>There is no month %1.</translation>
+        </message>
+        <message>
+            <source>The entries of %1/%2 cannot be read: %3</source>
+            <translation>The entries of %1/%2 cannot be read: %3</translation>
         </message>
     </context>
 </TS>

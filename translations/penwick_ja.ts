@@ -327,6 +327,10 @@
             <source>&amp;Book</source>
             <translation>記帳(&amp;B)</translation>
         </message>
+        <message>
+            <source>Some entries were not booked and are still here.</source>
+            <translation>記入されなかった項目があり、そのまま残しています。</translation>
+        </message>
     </context>
     <context>
         <name>KAppController</name>
@@ -410,6 +414,82 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
             <source>A change of the category and payway lists could not be finished.</source>
             <translation>分類と支払い方法のリストの変更を完了できませんでした。</translation>
         </message>
+        <message>
+            <source>Some months could not be saved.</source>
+            <translation>保存できなかった月があります。</translation>
+        </message>
+        <message>
+            <source>%1
+
+Free some disk space or check the folder's permissions and try again, or save a copy of these months elsewhere and bring it back later.</source>
+            <translation>%1
+
+ディスクの空きを作るかフォルダのアクセス権を確かめてから再試行してください。または、これらの月のコピーを別の場所に保存し、後で戻すこともできます。</translation>
+        </message>
+        <message>
+            <source>Try Again</source>
+            <translation>再試行</translation>
+        </message>
+        <message>
+            <source>Save a Copy…</source>
+            <translation>コピーを保存…</translation>
+        </message>
+        <message>
+            <source>Quit Without Saving</source>
+            <translation>保存せずに終了</translation>
+        </message>
+        <message>
+            <source>The copy could not be saved either.</source>
+            <translation>コピーも保存できませんでした。</translation>
+        </message>
+        <message>
+            <source>Months that could not be saved on %1 were kept.</source>
+            <translation>%1 に保存できなかった月が保管されています。</translation>
+        </message>
+        <message>
+            <source>%1
+
+They are in %2. Bring them back into the data folder now?</source>
+            <translation>%1
+
+保管場所は %2 です。今すぐデータフォルダに戻しますか?</translation>
+        </message>
+        <message>
+            <source>Bring Back</source>
+            <translation>戻す</translation>
+        </message>
+        <message>
+            <source>Not Now</source>
+            <translation>後で</translation>
+        </message>
+        <message>
+            <source>Discard…</source>
+            <translation>破棄…</translation>
+        </message>
+        <message>
+            <source>Not every kept month could be brought back; the copy stays.</source>
+            <translation>保管した月の一部を戻せませんでした。コピーは残しています。</translation>
+        </message>
+        <message>
+            <source>Throw the kept months away for good?</source>
+            <translation>保管した月を完全に破棄しますか?</translation>
+        </message>
+        <message>
+            <source>Throw Away</source>
+            <translation>破棄</translation>
+        </message>
+        <message>
+            <source>The category and payway lists could not be read.</source>
+            <translation>分類と支払い方法のリストを読み込めませんでした。</translation>
+        </message>
+        <message>
+            <source>%1
+
+The file "%2" is left exactly as it is, and nothing can be booked until it is mended or replaced.</source>
+            <translation>%1
+
+ファイル「%2」はそのまま残しています。修復または置き換えるまで記入できません。</translation>
+        </message>
     </context>
     <context>
         <name>KController</name>
@@ -452,6 +532,26 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
         <message>
             <source>A change of the category and payway lists was interrupted and could not be finished: %1</source>
             <translation>分類と支払い方法のリストの変更が中断され、完了できませんでした: %1</translation>
+        </message>
+        <message>
+            <source>The category and payway lists are being changed; the month is saved as soon as that is done.</source>
+            <translation>分類と支払い方法のリストを変更中です。終わり次第この月を保存します。</translation>
+        </message>
+        <message>
+            <source>Nothing can be booked until the list file is mended. %1</source>
+            <translation>リストのファイルを修復するまで記入できません。%1</translation>
+        </message>
+        <message>
+            <source>There is no month %1 in year %2.</source>
+            <translation>%2 年に %1 月はありません。</translation>
+        </message>
+        <message>
+            <source>The file of %1/%2 could not be read, so nothing can be added to it.</source>
+            <translation>%2 年 %1 月のファイルを読み込めなかったため、追加できません。</translation>
+        </message>
+        <message>
+            <source>The category and payway lists are being changed; try again when that is done.</source>
+            <translation>分類と支払い方法のリストを変更中です。終わってからもう一度お試しください。</translation>
         </message>
     </context>
     <context>
@@ -724,6 +824,10 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
         <message>
             <source>The PDF could not be written to %1.</source>
             <translation>PDF を %1 に書き出せませんでした。</translation>
+        </message>
+        <message>
+            <source>Not saved: %1. Penwick tries again every 30 seconds and at every change.</source>
+            <translation>未保存: %1。Penwick は 30 秒ごとと変更のたびに再試行します。</translation>
         </message>
     </context>
     <context>
@@ -1116,6 +1220,137 @@ The changes are kept in memory and Penwick tries again at the next save. Free so
         <message>
             <source>%1 is not a month file of Penwick; it is left alone.</source>
             <translation>%1 は Penwick の月のファイルではないため、開きません。</translation>
+        </message>
+    </context>
+    <context>
+        <name>DurableFile</name>
+        <message>
+            <source>%1 could not be written: %2</source>
+            <translation>%1 を書き込めませんでした: %2</translation>
+        </message>
+        <message>
+            <source>%1 could not be replaced: %2</source>
+            <translation>%1 を置き換えられませんでした: %2</translation>
+        </message>
+        <message>
+            <source>The folder %1 could not be written to disk: %2</source>
+            <translation>フォルダ %1 をディスクに書き込めませんでした: %2</translation>
+        </message>
+    </context>
+    <context>
+        <name>EntryCheck</name>
+        <message>
+            <source>The %1 "%2" is not a whole number.</source>
+            <translation>%1 の「%2」は整数ではありません。</translation>
+        </message>
+        <message>
+            <source>The year %1 is not within %2 to %3.</source>
+            <translation>%1 年は %2 〜 %3 年の範囲外です。</translation>
+        </message>
+        <message>
+            <source>category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>payway</source>
+            <translation>支払い方法</translation>
+        </message>
+        <message>
+            <source>There is no %1 %2; there are %3, counted from 0.</source>
+            <translation>%1 %2 はありません。0 から数えて %3 個あります。</translation>
+        </message>
+        <message>
+            <source>The amount "%1" is not a number.</source>
+            <translation>金額「%1」は数値ではありません。</translation>
+        </message>
+        <message>
+            <source>The amount %1 is not a finite number an entry can hold.</source>
+            <translation>金額 %1 は記録できる有限の数値ではありません。</translation>
+        </message>
+        <message>
+            <source>The details are not a text.</source>
+            <translation>内容が文字列ではありません。</translation>
+        </message>
+        <message>
+            <source>The month %1 is not within 1 to 12.</source>
+            <translation>%1 月は 1 〜 12 月の範囲外です。</translation>
+        </message>
+        <message>
+            <source>The day %1 is not within 1 to %2 of %3/%4.</source>
+            <translation>%1 日は %4 年 %3 月の 1 〜 %2 日の範囲外です。</translation>
+        </message>
+    </context>
+    <context>
+        <name>ListFile</name>
+        <message>
+            <source>it has no %1</source>
+            <translation>%1 がありません</translation>
+        </message>
+        <message>
+            <source>its %1 is not a list of names</source>
+            <translation>%1 が名前のリストではありません</translation>
+        </message>
+        <message>
+            <source>its %1 is empty</source>
+            <translation>%1 が空です</translation>
+        </message>
+        <message>
+            <source>its %1 is not a list of colours</source>
+            <translation>%1 が色のリストではありません</translation>
+        </message>
+        <message>
+            <source>it holds no dictionary</source>
+            <translation>辞書が含まれていません</translation>
+        </message>
+        <message>
+            <source>The list file %1 cannot be read: %2</source>
+            <translation>リストのファイル %1 を読み込めません: %2</translation>
+        </message>
+    </context>
+    <context>
+        <name>RescueFolder</name>
+        <message>
+            <source>The folder %1 could not be made.</source>
+            <translation>フォルダ %1 を作成できませんでした。</translation>
+        </message>
+        <message>
+            <source>the name does not stand for a month</source>
+            <translation>名前が月を表していません</translation>
+        </message>
+        <message>
+            <source>there is no such month</source>
+            <translation>その月はありません</translation>
+        </message>
+        <message>
+            <source>the month's own file cannot be read</source>
+            <translation>その月のファイルを読み込めません</translation>
+        </message>
+        <message>
+            <source>%1: brought back as it was</source>
+            <translation>%1: 保管時のまま戻しました</translation>
+        </message>
+        <message>
+            <source>%1: its file had changed since, so the entries it lacked were added</source>
+            <translation>%1: その後ファイルが変更されていたため、足りない項目を追加しました</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScriptCommands</name>
+        <message>
+            <source>The entry could not be booked: the file of its month cannot be read.</source>
+            <translation>記入できませんでした: その月のファイルを読み込めません。</translation>
+        </message>
+        <message>
+            <source>The entry was not booked: %1</source>
+            <translation>記入されませんでした: %1</translation>
+        </message>
+        <message>
+            <source>There is no month %1.</source>
+            <translation>月 %1 はありません。</translation>
+        </message>
+        <message>
+            <source>The entries of %1/%2 cannot be read: %3</source>
+            <translation>%2 年 %1 月の項目を読み込めません: %3</translation>
         </message>
     </context>
 </TS>

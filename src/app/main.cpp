@@ -109,8 +109,15 @@ int main(int argc, char *argv[])
     if (!scripting.start())
         qInfo("Scripting is not available: %s", qPrintable(scripting.errorString()));
 
+    // Closing the last window quits as the menu does: months that could not
+    // be saved are asked about first.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(&app, &QGuiApplication::lastWindowClosed, &controller,
+                     &KAppController::lastWindowClosed);
+
     UnixSignalQuit signalQuit;
-    QObject::connect(&signalQuit, &UnixSignalQuit::quitRequested, &app, &QCoreApplication::quit);
+    QObject::connect(&signalQuit, &UnixSignalQuit::quitRequested, &controller,
+                     &KAppController::terminate);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &controller,
                      &KAppController::applicationWillTerminate);
     // The session may end without quitting us in order: save when asked to.

@@ -2,9 +2,13 @@
 
 #include "CommandLine.h"
 
+#include "entry/EntryCheck.h"
+#include "model/EntryLimits.h"
+#include "model/NumberValue.h"
 #include "script/ScriptNames.h"
 
 #include <QCommandLineParser>
+#include <QDate>
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -81,19 +85,41 @@ RecordList recordsOf(const QVariant &value)
     return records;
 }
 
-void printRecords(const RecordList &records, bool json)
+// One line of an entry: day, category, details, whole amount, payway,
+// separated by tabs, with the texts escaped so that a tab or a line break in
+// them cannot split the line.
+QString lineOf(const QVariantMap &record, const QStringList &categories, const QStringList &payways)
+{
+    const auto name = [](const QStringList &names, const QVariant &index) {
+        return CommandLine::escaped(names.value(index.toInt()));
+    };
+    return u"%1/%2/%3"_s.arg(record.value(u"year"_s).toInt())
+               .arg(record.value(u"month"_s).toInt())
+               .arg(record.value(u"date"_s).toInt())
+        + u'\t' + name(categories, record.value(u"category"_s)) + u'\t'
+        + CommandLine::escaped(record.value(u"details"_s).toString()) + u'\t'
+        + QString::number(truncateToInt(record.value(u"amount"_s).toDouble())) + u'\t'
+        + name(payways, record.value(u"payway"_s));
+}
+
+bool printRecords(const QString &command, const RecordList &records, bool json)
 {
     if (json) {
         QJsonArray array;
         for (const QVariantMap &record : records)
             array.append(QJsonObject::fromVariantMap(record));
         CommandLine::printOut(QJsonDocument(array).toJson(QJsonDocument::Indented));
-        return;
+        return true;
     }
+    const auto categories = names(command, u"CategoryNames"_s);
+    const auto payways = categories ? names(command, u"PaywayNames"_s) : std::nullopt;
+    if (!payways)
+        return false;
     QByteArray text;
     for (const QVariantMap &record : records)
-        text += record.value(u"description"_s).toString().toUtf8() + '\n';
+        text += lineOf(record, *categories, *payways).toUtf8() + '\n';
     CommandLine::printOut(text);
+    return true;
 }
 
 void printNames(const QStringList &list, bool json)
@@ -149,8 +175,8 @@ int runOnMonth(const QString &command, const QString &monthText, const QString &
     const auto reply = call(command, *path, ScriptNames::DataListInterface, method, arguments);
     if (!reply || reply->isEmpty())
         return CommandLine::Failure;
-    printRecords(recordsOf(reply->constFirst()), json);
-    return CommandLine::Success;
+    return printRecords(command, recordsOf(reply->constFirst()), json) ? CommandLine::Success
+                                                                       : CommandLine::Failure;
 }
 
 // Names or indices as the indices in a text the program reads ("2 5").
@@ -290,21 +316,30 @@ int AppCommands::book(const QStringList &arguments)
     if (!parser.isSet(amount) || !parser.isSet(category))
         return CommandLine::usageError(command, tr("--amount and --category are required"));
 
+    // Every value is checked here, before the program is asked: a day that
+    // does not exist is a mistake on the command line, not a date to move.
     QVariantMap fields;
-    bool valid = false;
-    const double amountValue = parser.value(amount).toDouble(&valid);
-    if (!valid)
+    const auto amountValue = EntryCheck::finiteNumber(parser.value(amount));
+    if (!amountValue || !EntryLimits::isAmountStorable(*amountValue))
         return CommandLine::usageError(command, tr("'%1' is not an amount").arg(parser.value(amount)));
-    fields.insert(u"amount"_s, amountValue);
-    for (const auto &[option, key] : {std::pair{&year, u"year"_s}, std::pair{&month, u"month"_s},
-                                      std::pair{&date, u"date"_s}}) {
+    fields.insert(u"amount"_s, *amountValue);
+    const QDate today = QDate::currentDate();
+    int dateParts[3] = {today.year(), today.month(), today.day()};
+    const std::pair<const QCommandLineOption *, QString> dateOptions[] = {
+        {&year, u"year"_s}, {&month, u"month"_s}, {&date, u"date"_s}};
+    for (int i = 0; i < 3; ++i) {
+        const auto &[option, key] = dateOptions[i];
         if (!parser.isSet(*option))
             continue;
-        const int value = parser.value(*option).toInt(&valid);
-        if (!valid)
-            return CommandLine::usageError(command, tr("'%1' is not a number").arg(parser.value(*option)));
-        fields.insert(key, value);
+        const auto value = EntryCheck::wholeNumber(parser.value(*option));
+        if (!value)
+            return CommandLine::usageError(command, tr("--%1: '%2' is not a whole number")
+                                                        .arg(key, parser.value(*option)));
+        dateParts[i] = *value;
+        fields.insert(key, *value);
     }
+    if (const auto problem = EntryCheck::dateProblem(dateParts[0], dateParts[1], dateParts[2]))
+        return CommandLine::usageError(command, *problem);
     if (parser.isSet(details))
         fields.insert(u"details"_s, parser.value(details));
     for (const auto &[option, key, method, what] :
@@ -318,12 +353,18 @@ int AppCommands::book(const QStringList &arguments)
             return CommandLine::Failure;
         fields.insert(key, index->toInt());
     }
+    if (const auto problem = EntryCheck::newEntryProblem(fields, -1, -1))
+        return CommandLine::usageError(command, *problem);
 
     const auto reply = callApplication(command, u"MakeNewPaymentData"_s, {fields});
     if (!reply || reply->isEmpty())
         return CommandLine::Failure;
-    printRecords({recordOf(reply->constFirst())}, parser.isSet(jsonOption));
-    return CommandLine::Success;
+    if (const auto stored = EntryCheck::changedWhenStored(*amountValue))
+        CommandLine::printError(tr("book: the amount %1 is stored as %2, the nearest an entry holds")
+                                    .arg(parser.value(amount).trimmed(), shortestText(*stored)));
+    return printRecords(command, {recordOf(reply->constFirst())}, parser.isSet(jsonOption))
+        ? CommandLine::Success
+        : CommandLine::Failure;
 }
 
 int AppCommands::list(const QStringList &arguments)
@@ -356,18 +397,23 @@ int AppCommands::search(const QStringList &arguments)
         return *status;
 
     QVariantMap keys;
-    if (parser.isSet(days))
+    if (parser.isSet(days)) {
+        static const QRegularExpression dayList(u"^\\s*\\d+(\\s*-\\s*\\d+)?(\\s*,\\s*\\d+(\\s*-\\s*\\d+)?)*\\s*$"_s);
+        if (!dayList.match(parser.value(days)).hasMatch())
+            return CommandLine::usageError(command, tr("--days: '%1' is not a list of days such as "
+                                                       "\"1,5,10-12\"")
+                                                        .arg(parser.value(days)));
         keys.insert(u"Date"_s, parser.value(days));
+    }
     if (parser.isSet(words))
         keys.insert(u"Details"_s, parser.value(words));
     for (const auto &[option, key] : {std::pair{&min, u"AmountMin"_s}, std::pair{&max, u"AmountMax"_s}}) {
         if (!parser.isSet(*option))
             continue;
-        bool valid = false;
-        const double value = parser.value(*option).toDouble(&valid);
-        if (!valid)
+        const auto value = EntryCheck::finiteNumber(parser.value(*option));
+        if (!value)
             return CommandLine::usageError(command, tr("'%1' is not an amount").arg(parser.value(*option)));
-        keys.insert(key, value);
+        keys.insert(key, *value);
     }
     for (const auto &[option, key, method, what] :
          {std::tuple{&category, u"Category"_s, u"CategoryNames"_s, tr("category")},

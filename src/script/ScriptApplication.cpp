@@ -2,12 +2,11 @@
 
 #include "ScriptService.h"
 
-#include "app/KAppController.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
 #include "script/ScriptCommands.h"
+#include "script/ScriptHost.h"
 #include "script/ScriptNames.h"
-
 
 ScriptApplication::ScriptApplication(ScriptService *service)
     : QObject(service)
@@ -15,58 +14,63 @@ ScriptApplication::ScriptApplication(ScriptService *service)
 {
 }
 
-bool ScriptApplication::unlocked()
+KController *ScriptApplication::ledger()
 {
-    if (m_service->app()->running())
-        return true;
+    if (m_service->host()->running())
+        return m_service->host()->ledger();
     sendErrorReply(ScriptNames::LockedError,
                    tr("Penwick is locked: enter the password in the program first."));
-    return false;
+    return nullptr;
 }
 
 QStringList ScriptApplication::CategoryNames()
 {
-    return unlocked() ? m_service->app()->ledger()->categoryList() : QStringList();
+    KController *open = ledger();
+    return open ? open->categoryList() : QStringList();
 }
 
 QStringList ScriptApplication::PaywayNames()
 {
-    return unlocked() ? m_service->app()->ledger()->paywayList() : QStringList();
+    KController *open = ledger();
+    return open ? open->paywayList() : QStringList();
+}
+
+void ScriptApplication::show(ScriptHost::Window window)
+{
+    if (ledger())
+        m_service->host()->showWindow(window);
 }
 
 void ScriptApplication::ShowInputWindow()
 {
-    if (unlocked())
-        m_service->app()->showInputWindow();
+    show(ScriptHost::Window::Input);
 }
 
 void ScriptApplication::ShowListWindow()
 {
-    if (unlocked())
-        m_service->app()->showListWindow();
+    show(ScriptHost::Window::List);
 }
 
 void ScriptApplication::ShowGraphWindow()
 {
-    if (unlocked())
-        m_service->app()->showGraphWindow();
+    show(ScriptHost::Window::Graph);
 }
 
 void ScriptApplication::ShowBalanceListWindow()
 {
-    if (unlocked())
-        m_service->app()->showBalanceListWindow();
+    show(ScriptHost::Window::Balance);
 }
 
 QVariantMap ScriptApplication::MakeNewPaymentData(const QVariantMap &fields)
 {
-    if (!unlocked())
+    KController *open = ledger();
+    if (!open)
         return {};
+    ScriptCommands::Refusal refusal;
     const PaymentDataPtr record =
-        ScriptCommands::makeNewPaymentData(*m_service->app()->ledger(), plainArguments(fields));
+        ScriptCommands::makeNewPaymentData(*open, plainArguments(fields), &refusal);
     if (!record) {
-        sendErrorReply(ScriptNames::BookingFailedError,
-                       tr("The entry could not be booked: its month cannot be changed."));
+        sendErrorReply(refusal.name, refusal.message);
         return {};
     }
     return ScriptCommands::recordProperties(*record);
@@ -75,40 +79,41 @@ QVariantMap ScriptApplication::MakeNewPaymentData(const QVariantMap &fields)
 QList<QDBusObjectPath> ScriptApplication::DataLists()
 {
     QList<QDBusObjectPath> paths;
-    if (!unlocked())
+    KController *open = ledger();
+    if (!open)
         return paths;
-    for (const auto &list : ScriptCommands::dataLists(*m_service->app()->ledger()))
+    for (const auto &list : ScriptCommands::dataLists(*open))
         paths.append(QDBusObjectPath(m_service->pathForList(*list)));
     return paths;
 }
 
 QDBusObjectPath ScriptApplication::pathFor(const std::shared_ptr<DataList> &list, const QString &asked)
 {
-    if (!list) {
-        sendErrorReply(ScriptNames::NoSuchListError, tr("There is no month %1.").arg(asked));
+    ScriptCommands::Refusal refusal;
+    const auto readable = ScriptCommands::readableList(*ledger(), list, asked, &refusal);
+    if (!readable) {
+        sendErrorReply(refusal.name, refusal.message);
         return {};
     }
-    return QDBusObjectPath(m_service->pathForList(*list));
+    return QDBusObjectPath(m_service->pathForList(*readable));
 }
 
 QDBusObjectPath ScriptApplication::DataListWithID(int id)
 {
-    if (!unlocked())
-        return {};
-    return pathFor(ScriptCommands::valueWithID(*m_service->app()->ledger(), id), QString::number(id));
+    KController *open = ledger();
+    return open ? pathFor(ScriptCommands::valueWithID(*open, id), QString::number(id))
+                : QDBusObjectPath();
 }
 
 QDBusObjectPath ScriptApplication::DataListWithName(const QString &name)
 {
-    if (!unlocked())
-        return {};
-    return pathFor(ScriptCommands::valueWithName(*m_service->app()->ledger(), name), name);
+    KController *open = ledger();
+    return open ? pathFor(ScriptCommands::valueWithName(*open, name), name) : QDBusObjectPath();
 }
 
 QDBusObjectPath ScriptApplication::DataListAtIndex(int index)
 {
-    if (!unlocked())
-        return {};
-    return pathFor(ScriptCommands::valueAtIndex(*m_service->app()->ledger(), index),
-                   tr("at index %1").arg(index));
+    KController *open = ledger();
+    return open ? pathFor(ScriptCommands::valueAtIndex(*open, index), tr("at index %1").arg(index))
+                : QDBusObjectPath();
 }

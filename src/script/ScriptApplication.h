@@ -2,6 +2,8 @@
 
 #include "ScriptTypes.h"
 
+#include "script/ScriptHost.h"
+
 #include <QDBusContext>
 #include <QDBusObjectPath>
 #include <QObject>
@@ -10,6 +12,7 @@
 #include <memory>
 
 class DataList;
+class KController;
 class ScriptService;
 
 // The application object of the scripting service; its adaptor is made from
@@ -35,8 +38,10 @@ public slots:
     QDBusObjectPath DataListAtIndex(int index);
 
 private:
-    // False, after replying with the error, while the password is awaited.
-    bool unlocked();
+    // The ledger; nothing, after replying with the error, while the password
+    // is awaited.
+    KController *ledger();
+    void show(ScriptHost::Window window);
     QDBusObjectPath pathFor(const std::shared_ptr<DataList> &list, const QString &asked);
 
     ScriptService *m_service;

@@ -2,10 +2,10 @@
 
 #include "ScriptService.h"
 
-#include "app/KAppController.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
 #include "script/ScriptCommands.h"
+#include "script/ScriptHost.h"
 #include "script/ScriptNames.h"
 
 ScriptDataList::ScriptDataList(ScriptService *service, int uniqueID)
@@ -17,14 +17,17 @@ ScriptDataList::ScriptDataList(ScriptService *service, int uniqueID)
 
 std::shared_ptr<DataList> ScriptDataList::list()
 {
-    if (!m_service->app()->running()) {
+    if (!m_service->host()->running()) {
         sendErrorReply(ScriptNames::LockedError,
                        tr("Penwick is locked: enter the password in the program first."));
         return nullptr;
     }
-    auto found = ScriptCommands::valueWithID(*m_service->app()->ledger(), m_uniqueID);
+    KController &ledger = *m_service->host()->ledger();
+    ScriptCommands::Refusal refusal;
+    auto found = ScriptCommands::readableList(ledger, ScriptCommands::valueWithID(ledger, m_uniqueID),
+                                              QString::number(m_uniqueID), &refusal);
     if (!found)
-        sendErrorReply(ScriptNames::NoSuchListError, tr("There is no month %1.").arg(m_uniqueID));
+        sendErrorReply(refusal.name, refusal.message);
     return found;
 }
 
@@ -46,7 +49,7 @@ QVariantMapList ScriptDataList::ExtractWithASCommand(const QVariantMap &keys)
     if (!shown)
         return {};
     ScriptCommands::extractWithASCommand(*shown, plainArguments(keys),
-                                         int(m_service->app()->ledger()->categoryList().size()));
+                                         int(m_service->host()->ledger()->categoryList().size()));
     return ScriptCommands::recordProperties(shown->extractedArray());
 }
 

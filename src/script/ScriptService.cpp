@@ -12,9 +12,9 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMetaType>
 
-ScriptService::ScriptService(KAppController *app, const QDBusConnection &connection, QObject *parent)
+ScriptService::ScriptService(ScriptHost *host, const QDBusConnection &connection, QObject *parent)
     : QObject(parent)
-    , m_app(app)
+    , m_host(host)
     , m_connection(connection)
 {
     qDBusRegisterMetaType<QVariantMapList>();

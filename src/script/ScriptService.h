@@ -6,20 +6,20 @@
 #include <QString>
 
 class DataList;
-class KAppController;
+class ScriptHost;
 class ScriptDataList;
 
 // The program's scripting service on a D-Bus connection: the application
 // object and one object per month list, made when a script first reaches
 // that month. Everything is forwarded to the core's script commands and the
-// application controller; while the program waits for its password every
+// program through the ScriptHost; while the program waits for its password every
 // call fails with an error saying so.
 class ScriptService : public QObject
 {
     Q_OBJECT
 
 public:
-    ScriptService(KAppController *app, const QDBusConnection &connection, QObject *parent = nullptr);
+    ScriptService(ScriptHost *host, const QDBusConnection &connection, QObject *parent = nullptr);
     ~ScriptService() override;
 
     // Registers the objects and takes the service name. False, with the
@@ -28,12 +28,12 @@ public:
     bool start();
     QString errorString() const { return m_errorString; }
 
-    KAppController *app() const { return m_app; }
+    ScriptHost *host() const { return m_host; }
     // The object path of a list, registering its object on first use.
     QString pathForList(const DataList &list);
 
 private:
-    KAppController *m_app;
+    ScriptHost *m_host;
     QDBusConnection m_connection;
     QHash<int, ScriptDataList *> m_lists;
     QString m_errorString;

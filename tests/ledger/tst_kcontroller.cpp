@@ -3,20 +3,28 @@
 
 #include "ledger/DataFolder.h"
 #include "ledger/KController.h"
+#include "ledger/RescueFolder.h"
 #include "model/ModifMonthList.h"
 #include "model/MonthDataList.h"
 #include "model/Notifications.h"
 #include "model/YearDataList.h"
 #include "settings/Settings.h"
+#include "storage/DurableFile.h"
 #include "storage/MonthFile.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
 
+#include <cerrno>
+#include <cstring>
+
 using namespace Qt::Literals::StringLiterals;
+
+Q_DECLARE_METATYPE(DurableFile::Step)
 
 namespace {
 
@@ -57,7 +65,10 @@ private slots:
     void savingWritesEditedMonthsOnly();
     void resaveWritesEveryMonth();
     void releaseSavesAndForgets();
-    void failedWriteKeepsTheMonthEdited();
+    void failedSaveKeepsTheMonthAndIsRetried_data();
+    void failedSaveKeepsTheMonthAndIsRetried();
+    void listFileThatCannotBeReadStopsBookings();
+    void unsavedMonthsAreRescuedAndComeBack();
     void unreadableFileIsNeverOverwritten();
     void editsReachTheDiskShortlyAfter();
     void namesComeFromTheListFile();
@@ -290,26 +301,119 @@ void TestKController::releaseSavesAndForgets()
     QCOMPARE(controller.monthListForYear(2006, 5)->dataListArray().size(), 1);
 }
 
-void TestKController::failedWriteKeepsTheMonthEdited()
+void TestKController::failedSaveKeepsTheMonthAndIsRetried_data()
 {
-    // A data folder inside a plain file cannot be written, even by root.
-    const QString blocker = m_home.filePath(u"blocker"_s);
-    writeBytes(blocker, "x");
-    Settings().setDataPath(blocker + u"/data"_s);
+    QTest::addColumn<DurableFile::Step>("step");
+    QTest::addColumn<int>("error");
+    QTest::newRow("open") << DurableFile::Step::Open << EROFS;
+    QTest::newRow("write") << DurableFile::Step::Write << ENOSPC;
+    QTest::newRow("sync") << DurableFile::Step::SyncFile << ENOSPC;
+    QTest::newRow("rename") << DurableFile::Step::Rename << EROFS;
+}
 
+void TestKController::failedSaveKeepsTheMonthAndIsRetried()
+{
+    QFETCH(DurableFile::Step, step);
+    QFETCH(int, error);
     KController controller;
-    QSignalSpy failed(&controller, &KController::monthFileNotWritten);
+    QVERIFY(controller.addData({record(2006, 5, 2, u"precious"_s)}));
+    const QString path = controller.filePathForYear(2006, 5);
+    const QByteArray before = readBytes(path);
     const auto may = controller.monthListForYear(2006, 5);
-    may->addData({record(2006, 5, 2, u"precious"_s)});
-    QVERIFY(!controller.writeDataListToFile(may.get()));
+    QSignalSpy failed(&controller, &KController::monthFileNotWritten);
+    QSignalSpy unsaved(&controller, &KController::unsavedMonthsChanged);
+    const auto faultGuard = qScopeGuard([] { DurableFile::setFaultForTesting(std::nullopt); });
+    DurableFile::setFaultForTesting(DurableFile::Fault{step, error, m_folder});
+    const QString systemWords = QString::fromLocal8Bit(std::strerror(error));
+
+    // Booked means on the disk: a booking that cannot be written is undone.
+    QString why;
+    QVERIFY(!controller.addData({record(2006, 5, 3, u"not booked"_s)}, &why));
+    QVERIFY2(why.contains(systemWords), qPrintable(why));
+    QCOMPARE(detailsOf(may->dataListArray()), QStringList{u"precious"_s});
+    QVERIFY(!may->isEdited());
+    QVERIFY(failed.isEmpty());
+
+    // An edit stays in memory, edited, and is counted among the unsaved.
+    may->dataListArray().constFirst()->setDetails(u"edited"_s);
+    QVERIFY(!controller.saveAllEditedData());
     QVERIFY(may->isEdited());
     QCOMPARE(failed.size(), 1);
-    QCOMPARE(failed.at(0).at(0).toString(), controller.filePathForYear(2006, 5));
-    QVERIFY(!failed.at(0).at(1).toString().isEmpty());
+    QCOMPARE(failed.at(0).at(0).toString(), path);
+    QCOMPARE(unsaved.size(), 1);
+    QCOMPARE(controller.unsavedMonths().size(), 1);
+    QCOMPARE(controller.unsavedMonths().constFirst().month, 5);
+    QVERIFY(controller.unsavedMonths().constFirst().reason.contains(systemWords));
+    QCOMPARE(readBytes(path), before);
+    QCOMPARE(QDir(m_folder).entryList(QDir::Files | QDir::Hidden),
+             QStringList{u"Data_2006_5.Penwick"_s});
+    QVERIFY(!controller.releaseAllDataWithSave(true));
 
-    controller.saveAllEditedData();
-    QVERIFY(may->isEdited());
-    QCOMPARE(failed.size(), 2);
+    // Once the disk takes it again, the next try saves it.
+    DurableFile::setFaultForTesting(std::nullopt);
+    QVERIFY(controller.saveAllEditedData());
+    QVERIFY(controller.unsavedMonths().isEmpty());
+    QCOMPARE(unsaved.size(), 2);
+    QCOMPARE(detailsOf(MonthFile::decode(readBytes(path), nullptr)->dataListArray()),
+             QStringList{u"edited"_s});
+}
+
+void TestKController::listFileThatCannotBeReadStopsBookings()
+{
+    const QString path = m_folder + u"/Data.penwick"_s;
+    writeBytes(path, "<plist><string>Food</string></plist>");
+    KController controller;
+    QSignalSpy reported(&controller, &KController::listFileUnreadable);
+    controller.readListPreference();
+    QCOMPARE(reported.size(), 1);
+    QVERIFY(!controller.listFileProblem().isEmpty());
+    QString why;
+    QVERIFY(!controller.addData({record(2006, 5, 2, u"refused"_s)}, &why));
+    QVERIFY2(why.contains(u"list file"_s), qPrintable(why));
+    QVERIFY(!QFile::exists(controller.filePathForYear(2006, 5)));
+    QCOMPARE(readBytes(path), QByteArray("<plist><string>Food</string></plist>"));
+
+    // Mended, the lists come back and booking works again.
+    QFile::remove(path);
+    controller.readListPreference();
+    QCOMPARE(reported.size(), 2);
+    QVERIFY(reported.at(1).at(1).toString().isEmpty());
+    QVERIFY(controller.addData({record(2006, 5, 2, u"booked"_s)}));
+}
+
+void TestKController::unsavedMonthsAreRescuedAndComeBack()
+{
+    KController controller;
+    QVERIFY(controller.addData({record(2006, 5, 2, u"may"_s), record(2006, 6, 2, u"june"_s)}));
+    const auto may = controller.monthListForYear(2006, 5);
+    const auto june = controller.monthListForYear(2006, 6);
+    DurableFile::setFaultForTesting(DurableFile::Fault{DurableFile::Step::Write, ENOSPC, m_folder});
+    may->dataListArray().constFirst()->setDetails(u"may, edited"_s);
+    june->dataListArray().constFirst()->setDetails(u"june, edited"_s);
+    QVERIFY(!controller.saveAllEditedData());
+    const auto rescue = RescueFolder::save(controller);
+    DurableFile::setFaultForTesting(std::nullopt);
+    QVERIFY(rescue);
+    QVERIFY(!rescue->startsWith(m_folder));
+
+    // A new run: June's file changed meanwhile, May's did not.
+    QVERIFY(controller.releaseAllDataWithSave(false));
+    QVERIFY(controller.addData({record(2006, 6, 9, u"june, elsewhere"_s)}));
+    const auto pending = RescueFolder::pending(controller.dataFolderPath());
+    QCOMPARE(pending.size(), 1);
+    QCOMPARE(pending.constFirst().months,
+             (QStringList{u"Data_2006_5.Penwick"_s, u"Data_2006_6.Penwick"_s}));
+    QString report;
+    QVERIFY2(RescueFolder::mergeBack(controller, *rescue, &report), qPrintable(report));
+    QVERIFY(!QFileInfo::exists(*rescue));
+    QVERIFY(RescueFolder::pending(controller.dataFolderPath()).isEmpty());
+    const auto onDisk = [&](int month) {
+        return detailsOf(MonthFile::decode(readBytes(controller.filePathForYear(2006, month)),
+                                           nullptr)->dataListArray());
+    };
+    QCOMPARE(onDisk(5), QStringList{u"may, edited"_s});
+    // Both sides of a month changed on both are kept.
+    QCOMPARE(onDisk(6), (QStringList{u"june"_s, u"june, edited"_s, u"june, elsewhere"_s}));
 }
 
 void TestKController::unreadableFileIsNeverOverwritten()
@@ -388,9 +492,10 @@ void TestKController::addingGroupsByMonthAndWritesAtOnce()
 
     // A month whose file cannot be read takes nothing, and says so.
     writeBytes(controller.filePathForYear(2006, 7), "damaged");
-    QSignalSpy notWritten(&controller, &KController::monthFileNotWritten);
-    QVERIFY(!controller.addData({record(2006, 7, 1, u"july"_s), record(2006, 8, 1, u"august"_s)}));
-    QCOMPARE(notWritten.size(), 1);
+    QString why;
+    QVERIFY(!controller.addData({record(2006, 7, 1, u"july"_s), record(2006, 8, 1, u"august"_s)},
+                                &why));
+    QVERIFY2(why.contains(u"could not be read"_s), qPrintable(why));
     QVERIFY(controller.listForYear(2006, 7)->dataListArray().isEmpty());
     QCOMPARE(controller.listForYear(2006, 8)->dataListArray().size(), 1);
     QCOMPARE(readBytes(controller.filePathForYear(2006, 7)), QByteArray("damaged"));

@@ -1,4 +1,5 @@
 #include "TestDataFolder.h"
+#include "TestHelpers.h"
 
 #include "ScriptService.h"
 
@@ -8,16 +9,21 @@
 #include "script/ScriptNames.h"
 #include "security/PasswordLock.h"
 #include "settings/Settings.h"
+#include "storage/DurableFile.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusInterface>
 #include <QDBusObjectPath>
 #include <QDBusReply>
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <cerrno>
+#include <cstring>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -75,6 +81,12 @@ private slots:
     void penwickctlBooksListsAndSearches();
     void penwickctlErrorsAreOneLine();
     void lockedProgramAnswersOnlyAnError();
+    void doorChecksThroughDBus_data();
+    void doorChecksThroughDBus();
+    void doorChecksThroughPenwickctl_data();
+    void doorChecksThroughPenwickctl();
+    void bookingOnAFullDiskIsNotBooked();
+    void unreadableMonthIsAnError();
 
 private:
     QDBusInterface application();
@@ -280,6 +292,135 @@ void TestScriptService::lockedProgramAnswersOnlyAnError()
     QVERIFY2(run.err.contains(u"locked"_s), qPrintable(run.err));
     QVERIFY(!QFileInfo::exists(m_app->ledger()->filePathForYear(QDate::currentDate().year(),
                                                                  QDate::currentDate().month())));
+}
+
+void TestScriptService::doorChecksThroughDBus_data()
+{
+    QTest::addColumn<QVariantMap>("fields");
+    QTest::addColumn<QString>("error");
+    const QString invalid = ScriptNames::InvalidArgsError;
+    QTest::newRow("year -1") << QVariantMap{{u"year"_s, -1}} << invalid;
+    QTest::newRow("year 0") << QVariantMap{{u"year"_s, 0}} << invalid;
+    QTest::newRow("year 10000") << QVariantMap{{u"year"_s, 10000}} << invalid;
+    QTest::newRow("year 2147483647") << QVariantMap{{u"year"_s, 2147483647}} << invalid;
+    QTest::newRow("year abc") << QVariantMap{{u"year"_s, u"abc"_s}} << invalid;
+    QTest::newRow("date 12x") << QVariantMap{{u"date"_s, u"12x"_s}} << invalid;
+    QTest::newRow("month 2.5") << QVariantMap{{u"month"_s, 2.5}} << invalid;
+    QTest::newRow("category 99") << QVariantMap{{u"category"_s, 99}} << invalid;
+    QTest::newRow("payway -7") << QVariantMap{{u"payway"_s, -7}} << invalid;
+    QTest::newRow("amount nan") << QVariantMap{{u"amount"_s, qQNaN()}} << invalid;
+    QTest::newRow("amount inf") << QVariantMap{{u"amount"_s, qInf()}} << invalid;
+    QTest::newRow("amount 1e39") << QVariantMap{{u"amount"_s, 1e39}} << invalid;
+    QTest::newRow("amount 'nan'") << QVariantMap{{u"amount"_s, u"nan"_s}} << invalid;
+    // Kept within bounds as documented, and booked.
+    QTest::newRow("month 14, date 40") << QVariantMap{{u"year"_s, 2006}, {u"month"_s, 14},
+                                                      {u"date"_s, 40}} << QString();
+    QTest::newRow("numbers as text") << QVariantMap{{u"year"_s, u"2006"_s}, {u"amount"_s, u"12.5"_s}}
+                                     << QString();
+}
+
+void TestScriptService::doorChecksThroughDBus()
+{
+    QFETCH(QVariantMap, fields);
+    QFETCH(QString, error);
+    const QStringList before = QDir(m_home.dataFolder()).entryList(QDir::Files);
+    const QDBusMessage reply = application().call(u"MakeNewPaymentData"_s, fields);
+    QCOMPARE(reply.errorName(), error);
+    if (!error.isEmpty()) {
+        QCOMPARE(QDir(m_home.dataFolder()).entryList(QDir::Files), before);
+        // The service still answers everything else.
+        QCOMPARE(application().call(u"DataLists"_s).type(), QDBusMessage::ReplyMessage);
+    }
+    QCOMPARE(application().call(u"DataListWithID"_s, -9802).errorName(),
+             QString(ScriptNames::NoSuchListError));
+}
+
+void TestScriptService::doorChecksThroughPenwickctl_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("words");
+    const QStringList book{u"book"_s, u"--category"_s, u"0"_s};
+    QTest::newRow("amount nan") << book + QStringList{u"--amount"_s, u"nan"_s} << u"not an amount"_s;
+    QTest::newRow("amount inf") << book + QStringList{u"--amount"_s, u"inf"_s} << u"not an amount"_s;
+    QTest::newRow("amount 1e39") << book + QStringList{u"--amount"_s, u"1e39"_s} << u"not an amount"_s;
+    QTest::newRow("year -1") << book + QStringList{u"--amount"_s, u"1"_s, u"--year"_s, u"-1"_s}
+                             << u"year -1"_s;
+    QTest::newRow("year abc") << book + QStringList{u"--amount"_s, u"1"_s, u"--year"_s, u"abc"_s}
+                              << u"not a whole number"_s;
+    QTest::newRow("month 13") << book + QStringList{u"--amount"_s, u"1"_s, u"--month"_s, u"13"_s}
+                              << u"month 13"_s;
+    QTest::newRow("date 12x") << book + QStringList{u"--amount"_s, u"1"_s, u"--date"_s, u"12x"_s}
+                              << u"not a whole number"_s;
+    QTest::newRow("date 0") << book + QStringList{u"--amount"_s, u"1"_s, u"--date"_s, u"0"_s}
+                            << u"day 0"_s;
+    QTest::newRow("31 February")
+        << book + QStringList{u"--amount"_s, u"1"_s, u"--year"_s, u"2006"_s, u"--month"_s, u"2"_s,
+                              u"--date"_s, u"31"_s}
+        << u"day 31 is not within 1 to 28"_s;
+    QTest::newRow("category 99") << QStringList{u"book"_s, u"--amount"_s, u"1"_s, u"--category"_s,
+                                                u"99"_s}
+                                 << u"unknown category"_s;
+    QTest::newRow("days abc") << QStringList{u"search"_s, u"200605"_s, u"--days"_s, u"abc"_s}
+                              << u"not a list of days"_s;
+    QTest::newRow("min nan") << QStringList{u"search"_s, u"200605"_s, u"--min"_s, u"nan"_s}
+                             << u"not an amount"_s;
+}
+
+void TestScriptService::doorChecksThroughPenwickctl()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, words);
+    const Run run = penwickctl(arguments);
+    QVERIFY(run.exitCode != 0);
+    QVERIFY2(run.err.contains(words), qPrintable(run.err));
+    QVERIFY(run.out.isEmpty());
+    QVERIFY(QDir(m_home.dataFolder())
+                .entryList({u"*.Penwick"_s}, QDir::Files | QDir::CaseSensitive)
+                .isEmpty());
+}
+
+void TestScriptService::bookingOnAFullDiskIsNotBooked()
+{
+    const QStringList book{u"book"_s, u"--amount"_s, u"99999999"_s, u"--category"_s, u"0"_s,
+                           u"--details"_s, u"tab\there\nand a line"_s, u"--year"_s, u"2006"_s,
+                           u"--month"_s, u"5"_s, u"--date"_s, u"2"_s};
+    QCOMPARE(penwickctl(book).exitCode, 0);
+    const QString may = m_app->ledger()->filePathForYear(2006, 5);
+    const QByteArray before = readBytes(may);
+
+    DurableFile::setFaultForTesting(DurableFile::Fault{DurableFile::Step::Write, ENOSPC,
+                                                       m_home.dataFolder()});
+    const QDBusMessage reply = application().call(
+        u"MakeNewPaymentData"_s, QVariantMap{{u"year"_s, 2006}, {u"month"_s, 5}, {u"amount"_s, 5}});
+    QCOMPARE(reply.errorName(), QString(ScriptNames::NotSavedError));
+    const Run full = penwickctl(book);
+    DurableFile::setFaultForTesting(std::nullopt);
+    QVERIFY(full.exitCode != 0);
+    QVERIFY2(full.err.contains(QString::fromLocal8Bit(std::strerror(ENOSPC))), qPrintable(full.err));
+    QCOMPARE(readBytes(may), before);
+    QCOMPARE(m_app->ledger()->monthListForYear(2006, 5)->dataListArray().size(), 1);
+    QVERIFY(!m_app->ledger()->hasUnsavedMonths());
+
+    // Space is back: the next booking goes through, and says what it stored.
+    const Run again = penwickctl(book);
+    QCOMPARE(again.exitCode, 0);
+    QVERIFY2(again.err.contains(u"stored as 100000000"_s), qPrintable(again.err));
+    const Run listed = penwickctl({u"list"_s, u"200605"_s});
+    QCOMPARE(listed.out.count(u'\n'), 2);
+    QVERIFY2(listed.out.contains(u"\ttab\\there\\nand a line\t"_s), qPrintable(listed.out));
+}
+
+void TestScriptService::unreadableMonthIsAnError()
+{
+    writeBytes(m_app->ledger()->filePathForYear(2006, 7), "not a month");
+    QCOMPARE(application().call(u"DataListWithID"_s, 200607).errorName(),
+             QString(ScriptNames::UnreadableError));
+    QCOMPARE(application().call(u"DataListWithID"_s, 200600).errorName(),
+             QString(ScriptNames::UnreadableError));
+    const Run listed = penwickctl({u"list"_s, u"200607"_s});
+    QVERIFY(listed.exitCode != 0);
+    QVERIFY2(listed.err.contains(u"cannot be read"_s), qPrintable(listed.err));
+    QCOMPARE(readBytes(m_app->ledger()->filePathForYear(2006, 7)), QByteArray("not a month"));
 }
 
 QTEST_MAIN(TestScriptService)

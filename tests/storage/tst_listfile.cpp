@@ -6,6 +6,7 @@
 #include "storage/PropertyList.h"
 #include "storage/TypedStreamWriter.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTest>
 
@@ -37,7 +38,8 @@ private slots:
     void coloursOfEveryKindDecode();
     void writingOneListKeepsTheOthers();
     void binaryListFilesRead();
-    void unreadableListFileIsKeptAside();
+    void unreadableListFileIsNeverReplaced_data();
+    void unreadableListFileIsNeverReplaced();
 
 private:
     TestDataFolder m_home;
@@ -178,25 +180,48 @@ void TestListFile::binaryListFilesRead()
              QVariantList{u"Cash"_s});
 }
 
-void TestListFile::unreadableListFileIsKeptAside()
+void TestListFile::unreadableListFileIsNeverReplaced_data()
 {
-    const QString path = ListFile::dictionaryPathString(m_folder);
-    for (const QByteArray &damage : {QByteArray("<?xml version=\"1.0\"?><plist><dict><key>"),
-                                     QByteArray("bplist00\xff\xff\xff", 11), QByteArray()}) {
-        writeBytes(path, damage);
-        QVERIFY(ListFile::preferenceDataListForKey(m_folder, ListFile::CategoryList).isEmpty());
-        QVERIFY(PropertyList::fromData(damage).isNull());
-    }
-    writeBytes(path, "garbage");
-    QVERIFY(ListFile::setPreferenceDataListForKey(m_folder, {u"Cash"_s}, ListFile::PaywayList));
-    QCOMPARE(readBytes(path + u".unreadable"_s), QByteArray("garbage"));
-    QCOMPARE(ListFile::preferenceDataListForKey(m_folder, ListFile::PaywayList), QVariantList{u"Cash"_s});
+    const auto plist = [](const char *body) {
+        return QByteArray("<?xml version=\"1.0\"?><plist version=\"1.0\">") + body
+            + QByteArray("</plist>");
+    };
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("garbage") << QByteArray("garbage");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("cut short") << QByteArray("<?xml version=\"1.0\"?><plist><dict><key>");
+    QTest::newRow("broken binary") << QByteArray("bplist00\xff\xff\xff", 11);
+    QTest::newRow("no dictionary") << plist("<array><string>Food</string></array>");
+    QTest::newRow("a string for a list")
+        << plist("<dict><key>CategoryList</key><string>Food</string>"
+                 "<key>PaywayList</key><array/></dict>");
+    QTest::newRow("numbers for names")
+        << plist("<dict><key>CategoryList</key><array><integer>1</integer></array>"
+                 "<key>PaywayList</key><array/></dict>");
+    QTest::newRow("no payways") << plist("<dict><key>CategoryList</key><array><string>Food</string>"
+                                         "</array></dict>");
+    QTest::newRow("no categories")
+        << plist("<dict><key>CategoryList</key><array/><key>PaywayList</key><array/></dict>");
+    QTest::newRow("names for colours")
+        << plist("<dict><key>CategoryList</key><array><string>Food</string></array>"
+                 "<key>ColorList</key><array><string>red</string></array>"
+                 "<key>PaywayList</key><array/></dict>");
+}
 
-    // A second damaged file does not replace the first copy.
-    writeBytes(path, "more garbage");
-    QVERIFY(ListFile::setPreferenceDataListForKey(m_folder, {u"Card"_s}, ListFile::PaywayList));
-    QCOMPARE(readBytes(path + u".unreadable"_s), QByteArray("garbage"));
-    QCOMPARE(readBytes(path + u".unreadable-2"_s), QByteArray("more garbage"));
+void TestListFile::unreadableListFileIsNeverReplaced()
+{
+    QFETCH(QByteArray, bytes);
+    const QString path = ListFile::dictionaryPathString(m_folder);
+    writeBytes(path, bytes);
+    QString why;
+    QVERIFY(!ListFile::read(m_folder, &why));
+    QVERIFY2(why.contains(path), qPrintable(why));
+    QVERIFY(ListFile::preferenceDataListForKey(m_folder, ListFile::CategoryList).isEmpty());
+    why.clear();
+    QVERIFY(!ListFile::setPreferenceDataListForKey(m_folder, {u"Cash"_s}, ListFile::PaywayList, &why));
+    QVERIFY(!why.isEmpty());
+    QCOMPARE(readBytes(path), bytes);
+    QCOMPARE(QDir(m_folder).entryList(QDir::Files | QDir::Hidden), QStringList{u"Data.penwick"_s});
 }
 
 QTEST_GUILESS_MAIN(TestListFile)

@@ -8,19 +8,27 @@
 #include "list/ListWinController.h"
 #include "prefs/PrefWinController.h"
 #include "ledger/KController.h"
+#include "ledger/RescueFolder.h"
+#include "model/MonthDataList.h"
 #include "password/ConfirmPassPanelController.h"
 #include "security/PasswordLock.h"
 #include "settings/Settings.h"
+#include "storage/DurableFile.h"
 #include "storage/ListFile.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSettings>
 #include <QTest>
 #include <QVBoxLayout>
+
+#include <cerrno>
+#include <cstring>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,6 +63,30 @@ QAction *actionWithTag(QMenuBar *bar, int tag)
     return nullptr;
 }
 
+// A message box by name, whether it stands alone or sits on a window.
+QMessageBox *messageBox(const QString &name)
+{
+    for (QWidget *top : QApplication::topLevelWidgets()) {
+        if (top->objectName() == name && top->isVisible())
+            return qobject_cast<QMessageBox *>(top);
+        if (auto *box = top->findChild<QMessageBox *>(name); box && box->isVisible())
+            return box;
+    }
+    return nullptr;
+}
+
+bool click(QMessageBox *box, const QString &text)
+{
+    const QList<QAbstractButton *> buttons = box->buttons();
+    for (QAbstractButton *button : buttons) {
+        if (button->text() == text) {
+            button->click();
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 class TestKAppController : public QObject
@@ -76,6 +108,7 @@ private slots:
     void typedInputHoldsTheQuit();
     void unfinishedListChangeIsReportedAtStart();
     void everyWindowGetsTheMenu();
+    void unsavedMonthsHoldTheQuit();
 
 private:
     TestDataFolder m_home;
@@ -289,6 +322,50 @@ void TestKAppController::everyWindowGetsTheMenu()
     // Before start-up the windows' items are there but cannot be chosen.
     QAction *list = actionWithTag(bar, KAppController::ListWindowTag);
     QVERIFY(list && !list->isEnabled());
+}
+
+void TestKAppController::unsavedMonthsHoldTheQuit()
+{
+    const auto faultGuard = qScopeGuard([] { DurableFile::setFaultForTesting(std::nullopt); });
+    QString rescued;
+    {
+        KAppController controller;
+        controller.confirmPassword();
+        KController *ledger = controller.ledger();
+        QVERIFY(ledger->addData({std::make_shared<PaymentData>(2006, 5, 2, 0, u"kept"_s, 5, 0)}));
+        DurableFile::setFaultForTesting(
+            DurableFile::Fault{DurableFile::Step::Write, ENOSPC, ledger->dataFolderPath()});
+        ledger->monthListForYear(2006, 5)->dataListArray().constFirst()->setDetails(u"edited"_s);
+
+        controller.quit();
+        QPointer<QMessageBox> asked = messageBox(u"unsavedSheet"_s);
+        QVERIFY(asked);
+        QVERIFY(asked->informativeText().contains(QString::fromLocal8Bit(std::strerror(ENOSPC))));
+        QVERIFY(click(asked, u"Cancel"_s));
+        QTRY_VERIFY(!asked);
+        QVERIFY(controller.running());
+
+        controller.quit();
+        asked = messageBox(u"unsavedSheet"_s);
+        QVERIFY(asked);
+        QVERIFY(click(asked, u"Save a Copy…"_s));
+        const auto pending = RescueFolder::pending(ledger->dataFolderPath());
+        QCOMPARE(pending.size(), 1);
+        rescued = pending.constFirst().folder;
+    }
+    DurableFile::setFaultForTesting(std::nullopt);
+    closeTopLevels();
+
+    // The next start offers the copy back.
+    KAppController next;
+    next.confirmPassword();
+    QMessageBox *offer = messageBox(u"rescueSheet"_s);
+    QVERIFY(offer);
+    QVERIFY(click(offer, u"Bring Back"_s));
+    QVERIFY(!QFileInfo::exists(rescued));
+    QCOMPARE(next.ledger()->monthListForYear(2006, 5)->dataListArray().constFirst()->details(),
+             u"edited"_s);
+    QVERIFY(!next.ledger()->monthListForYear(2006, 5)->isEdited());
 }
 
 QTEST_MAIN(TestKAppController)

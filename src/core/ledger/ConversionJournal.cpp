@@ -1,5 +1,6 @@
 #include "ledger/ConversionJournal.h"
 
+#include "storage/DurableFile.h"
 #include "storage/ListFile.h"
 
 #include <QDir>
@@ -7,41 +8,10 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
-
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <fcntl.h>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// Makes the folder's entries (new names, renames, removals) durable.
-bool syncFolder(const QString &folder, QString *error)
-{
-    const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
-    const bool synced = fd >= 0 && ::fsync(fd) == 0;
-    const int cause = errno;
-    if (fd >= 0)
-        ::close(fd);
-    if (!synced && error)
-        *error = ConversionJournal::tr("The folder %1 could not be written to disk: %2")
-                     .arg(folder, QString::fromLocal8Bit(std::strerror(cause)));
-    return synced;
-}
-
-bool saveFile(const QString &path, const QByteArray &content, QString *error)
-{
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
-        return true;
-    if (error)
-        *error = ConversionJournal::tr("%1 could not be written: %2").arg(path, file.errorString());
-    return false;
-}
 
 QJsonArray mapToJson(const ConversionMap &map)
 {
@@ -158,8 +128,7 @@ bool ConversionJournal::writeJournal(Phase phase, QString *error)
         {u"lists"_s, listsToJson(m_conversion.lists)},
         {u"files"_s, files},
     };
-    if (!saveFile(journalPath(m_folder), QJsonDocument(journal).toJson(), error)
-        || !syncFolder(m_folder, error))
+    if (!DurableFile::write(journalPath(m_folder), QJsonDocument(journal).toJson(), error))
         return false;
     m_phase = phase;
     return true;
@@ -178,13 +147,7 @@ bool ConversionJournal::writeMonth(const QString &file, const QByteArray &conten
     // Nothing relies on a side file before commit(), which makes them all
     // durable at once: one flush of the disk for every month instead of one
     // for each.
-    QFile side(sideFilePath(pathOf(file)));
-    if (side.open(QIODevice::WriteOnly | QIODevice::Truncate)
-        && side.write(content) == content.size() && side.flush())
-        return true;
-    if (error)
-        *error = tr("%1 could not be written: %2").arg(side.fileName(), side.errorString());
-    return false;
+    return DurableFile::writeUnsynced(sideFilePath(pathOf(file)), content, error);
 }
 
 bool ConversionJournal::commit(QString *error)
@@ -192,15 +155,10 @@ bool ConversionJournal::commit(QString *error)
     // Every side file, and its name, must be on the disk before the journal
     // says they are all there.
     for (const QString &name : std::as_const(m_files)) {
-        QFile side(sideFilePath(pathOf(name)));
-        if (!side.open(QIODevice::ReadOnly) || ::fdatasync(side.handle()) != 0) {
-            if (error)
-                *error = tr("%1 could not be written to disk: %2")
-                             .arg(side.fileName(), QString::fromLocal8Bit(std::strerror(errno)));
+        if (!DurableFile::syncToDisk(sideFilePath(pathOf(name)), error))
             return false;
-        }
     }
-    return syncFolder(m_folder, error) && writeJournal(Phase::Commit, error);
+    return DurableFile::syncFolder(m_folder, error) && writeJournal(Phase::Commit, error);
 }
 
 bool ConversionJournal::finish(const std::function<void(int)> &replaced, QString *error)
@@ -210,29 +168,18 @@ bool ConversionJournal::finish(const std::function<void(int)> &replaced, QString
         const QString target = pathOf(name);
         const QString side = sideFilePath(target);
         // A side file that is gone has replaced its month already.
-        if (QFile::exists(side)
-            && std::rename(QFile::encodeName(side).constData(),
-                           QFile::encodeName(target).constData())
-                   != 0) {
-            if (error)
-                *error = tr("%1 could not be replaced: %2")
-                             .arg(target, QString::fromLocal8Bit(std::strerror(errno)));
+        if (QFile::exists(side) && !DurableFile::rename(side, target, error))
             return false;
-        }
         if (replaced)
             replaced(++done);
     }
-    if (!syncFolder(m_folder, error))
+    if (!DurableFile::syncFolder(m_folder, error))
         return false;
     if (!m_conversion.lists.isEmpty()
-        && !ListFile::setPreferenceDataLists(m_folder, m_conversion.lists)) {
-        if (error)
-            *error = tr("The list file %1 could not be written.")
-                         .arg(ListFile::dictionaryPathString(m_folder));
+        && !ListFile::setPreferenceDataLists(m_folder, m_conversion.lists, error))
         return false;
-    }
     QFile::remove(journalPath(m_folder));
-    syncFolder(m_folder, nullptr); // a journal that comes back only repeats the renames
+    DurableFile::syncFolder(m_folder); // a journal that comes back only repeats the renames
     m_phase = Phase::None;
     return true;
 }
@@ -247,6 +194,6 @@ void ConversionJournal::abandon()
     for (const QString &name : sideFiles)
         QFile::remove(folder.filePath(name));
     QFile::remove(journalPath(m_folder));
-    syncFolder(m_folder, nullptr);
+    DurableFile::syncFolder(m_folder);
     m_phase = Phase::None;
 }

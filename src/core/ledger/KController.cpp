@@ -14,13 +14,16 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+#include "storage/DurableFile.h"
 #include <QtDebug>
 
 #include <algorithm>
 
 namespace {
 constexpr int kSaveDelayMs = 1000;
+// A month that could not be written is tried again this often, so that it is
+// saved soon after the disk has room again.
+constexpr int kRetryDelayMs = 30000;
 
 int cacheKey(int year, int month)
 {
@@ -58,6 +61,8 @@ KController::KController(QObject *parent)
     m_saveTimer.setSingleShot(true);
     m_saveTimer.setInterval(kSaveDelayMs);
     connect(&m_saveTimer, &QTimer::timeout, this, &KController::saveAllEditedData);
+    m_retryTimer.setInterval(kRetryDelayMs);
+    connect(&m_retryTimer, &QTimer::timeout, this, &KController::saveAllEditedData);
     connect(Notifications::instance(), &Notifications::dataListHasChanged, this,
             &KController::scheduleSave);
     LedgerController::install(this);
@@ -156,6 +161,7 @@ std::shared_ptr<MonthDataList> KController::readMonthFile(int year, int month)
         // read-only until the file is mended.
         list = std::make_shared<MonthDataList>(year, month);
         list->setReadOnly(true);
+        m_unreadableMonths.insert(cacheKey(year, month), reason);
         emit monthFileUnreadable(path, reason);
     }
     return list;
@@ -177,31 +183,69 @@ std::shared_ptr<DataList> KController::readDataFromPath(const QString &path)
     return listForYear(yearMonth->year, yearMonth->month);
 }
 
-bool KController::writeDataListToFile(MonthDataList *list)
+bool KController::writeMonth(MonthDataList *list, QString *reason)
+{
+    if (list->isReadOnly()) {
+        *reason = tr("The file could not be read, so it is left as it is. Changes to this month "
+                     "are not saved.");
+        return false;
+    }
+    if (!DurableFile::write(filePathForYear(list->year(), list->month()), MonthFile::encode(*list),
+                            reason))
+        return false;
+    list->setIsEdited(false);
+    return true;
+}
+
+bool KController::writeDataListToFile(MonthDataList *list, QString *error)
 {
     if (!list)
         return false;
-    if (m_conversionRunning)
-        return false; // stays edited; saved once the conversion is through
-    const QString path = filePathForYear(list->year(), list->month());
-    if (list->isReadOnly()) {
-        emit monthFileNotWritten(
-            path, tr("The file could not be read, so it is left as it is. Changes to this month "
-                     "are not saved."));
+    if (m_conversionRunning) {
+        // Stays edited; saved once the conversion is through.
+        setError(error, tr("The category and payway lists are being changed; the month is saved "
+                           "as soon as that is done."));
         return false;
     }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        emit monthFileNotWritten(path, file.errorString());
-        return false;
-    }
-    file.write(MonthFile::encode(*list));
-    if (!file.commit()) {
-        emit monthFileNotWritten(path, file.errorString());
-        return false;
-    }
-    list->setIsEdited(false);
-    return true;
+    QString reason;
+    const bool written = writeMonth(list, &reason);
+    setMonthWritten(list, written ? QString() : reason);
+    if (written)
+        return true;
+    setError(error, reason);
+    emit monthFileNotWritten(filePathForYear(list->year(), list->month()), reason);
+    return false;
+}
+
+void KController::setMonthWritten(const MonthDataList *list, const QString &failure)
+{
+    const int key = cacheKey(list->year(), list->month());
+    const bool changed = failure.isEmpty() ? m_notWritten.remove(key) > 0
+                                           : m_notWritten.value(key) != failure;
+    if (!failure.isEmpty())
+        m_notWritten.insert(key, failure);
+    if (m_notWritten.isEmpty())
+        m_retryTimer.stop();
+    else if (!m_retryTimer.isActive())
+        m_retryTimer.start();
+    if (changed)
+        emit unsavedMonthsChanged();
+}
+
+QList<KController::UnsavedMonth> KController::unsavedMonths() const
+{
+    QList<UnsavedMonth> months;
+    for (auto it = m_notWritten.cbegin(); it != m_notWritten.cend(); ++it)
+        months.append({it.key() / 100, it.key() % 100, it.value()});
+    return months;
+}
+
+std::optional<QString> KController::unreadableReason(int year, int month) const
+{
+    const auto found = m_unreadableMonths.constFind(cacheKey(year, month));
+    if (found == m_unreadableMonths.cend())
+        return std::nullopt;
+    return found.value();
 }
 
 QList<std::shared_ptr<MonthDataList>> KController::loadMonthFiles()
@@ -232,7 +276,7 @@ QList<std::shared_ptr<DataList>> KController::cachedLists() const
     return lists;
 }
 
-void KController::saveAllEditedData()
+bool KController::saveAllEditedData()
 {
     m_saveTimer.stop();
     emit aboutToSaveAllEditedData();
@@ -245,6 +289,15 @@ void KController::saveAllEditedData()
         if (auto *month = dynamic_cast<MonthDataList *>(list.get()))
             writeDataListToFile(month);
     }
+    return !hasUnsavedMonths();
+}
+
+bool KController::hasUnsavedMonths() const
+{
+    const QList<MonthDataList *> months = cachedMonths();
+    return std::any_of(months.cbegin(), months.cend(), [](const MonthDataList *month) {
+        return month->isEdited() && !month->isReadOnly();
+    });
 }
 
 void KController::resaveAllDataFile()
@@ -259,16 +312,17 @@ void KController::resaveAllDataFile()
 
 bool KController::releaseAllDataWithSave(bool save)
 {
-    if (save) {
-        saveAllEditedData();
-        const QList<MonthDataList *> months = cachedMonths();
-        if (std::any_of(months.cbegin(), months.cend(),
-                        [](const MonthDataList *month) { return month->isEdited(); }))
-            return false;
-    }
+    if (save && !saveAllEditedData())
+        return false;
     m_saveTimer.stop();
     m_listStock.clear();
     m_dataFolder.clear();
+    m_unreadableMonths.clear();
+    m_listFileProblem.clear();
+    if (!std::exchange(m_notWritten, {}).isEmpty()) {
+        m_retryTimer.stop();
+        emit unsavedMonthsChanged();
+    }
     return true;
 }
 
@@ -280,31 +334,49 @@ QMap<int, PaymentArray> KController::assortDataArray(const PaymentArray &records
     return groups;
 }
 
-bool KController::addData(const PaymentArray &records)
+bool KController::addData(const PaymentArray &records, QString *error)
 {
     bool all = true;
     const auto groups = assortDataArray(records);
     for (const PaymentArray &group : groups) {
         const PaymentDataPtr &first = group.constFirst();
-        all = addData(group, first->year(), first->month()) && all;
+        all = addData(group, first->year(), first->month(), error) && all;
     }
     return all;
 }
 
-bool KController::addData(const PaymentArray &records, int year, int month)
+bool KController::addData(const PaymentArray &records, int year, int month, QString *error)
 {
-    const auto list = monthListForYear(year, month);
-    if (!list)
-        return false;
-    if (list->isReadOnly()) {
-        emit monthFileNotWritten(filePathForYear(year, month),
-                                 tr("The file of this month could not be read, so nothing can be "
-                                    "added to it."));
+    if (!m_listFileProblem.isEmpty()) {
+        setError(error, tr("Nothing can be booked until the list file is mended. %1")
+                            .arg(m_listFileProblem));
         return false;
     }
+    const auto list = monthListForYear(year, month);
+    if (!list) {
+        setError(error, tr("There is no month %1 in year %2.").arg(month).arg(year));
+        return false;
+    }
+    if (list->isReadOnly()) {
+        setError(error, tr("The file of %1/%2 could not be read, so nothing can be added to it.")
+                            .arg(month).arg(year));
+        return false;
+    }
+    // Booked means on the disk: a month that cannot be written gives its new
+    // entries back, and is otherwise as it was.
+    const bool wasEdited = list->isEdited();
     list->addData(records);
-    writeDataListToFile(list.get());
-    return true;
+    QString reason;
+    if (!m_conversionRunning && writeMonth(list.get(), &reason)) {
+        setMonthWritten(list.get(), {});
+        return true;
+    }
+    if (m_conversionRunning)
+        reason = tr("The category and payway lists are being changed; try again when that is done.");
+    list->deleteData(records);
+    list->setIsEdited(wasEdited);
+    setError(error, reason);
+    return false;
 }
 
 void KController::deleteData(const PaymentArray &records)
@@ -359,11 +431,8 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
     const QString folder = dataFolderPath();
     if (!conversion.renumbers()) {
         if (!conversion.lists.isEmpty()
-            && !ListFile::setPreferenceDataLists(folder, conversion.lists)) {
-            setError(error, tr("The list file %1 could not be written.")
-                                .arg(ListFile::dictionaryPathString(folder)));
+            && !ListFile::setPreferenceDataLists(folder, conversion.lists, error))
             return false;
-        }
         readListPreference();
         return true;
     }
@@ -525,6 +594,11 @@ void KController::moveData(const PaymentDataPtr &record, MonthDataList *fromList
 
 void KController::readListPreference()
 {
+    QString problem;
+    if (ListFile::read(dataFolderPath(), &problem))
+        problem.clear();
+    if (std::exchange(m_listFileProblem, problem) != problem)
+        emit listFileUnreadable(ListFile::dictionaryPathString(dataFolderPath()), problem);
     const auto names = [this](QLatin1StringView key) {
         QStringList list;
         const QVariantList values = ListFile::preferenceDataListForKey(dataFolderPath(), key);

@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include <optional>
+
 class MonthDataList;
 
 // The application controller's data half: the month store with its cache of
@@ -44,15 +46,32 @@ public:
     std::shared_ptr<DataList> readDataListOfYear(int year, int month);
     // The data folder's own list of the month a file name stands for.
     std::shared_ptr<DataList> readDataFromPath(const QString &path);
-    // Archives the list into its month file. False when it could not be
-    // written; the list then stays edited.
-    bool writeDataListToFile(MonthDataList *list);
+    // Archives the list into its month file, durably. False, with the reason,
+    // when it could not be written: the list then stays edited, is reported
+    // by monthFileNotWritten and counts among the unsaved months, which are
+    // tried again at every save and every 30 seconds.
+    bool writeDataListToFile(MonthDataList *list, QString *error = nullptr);
     // Loads every month file of the data folder.
     void readAllData();
     // Every list in the cache, by year * 100 + month ascending.
     QList<std::shared_ptr<DataList>> cachedLists() const;
-    // Writes every edited month of the cache.
-    void saveAllEditedData();
+    // Writes every edited month of the cache; true when none is left unsaved.
+    bool saveAllEditedData();
+    // Whether an edited month of the cache is not on the disk.
+    bool hasUnsavedMonths() const;
+    struct UnsavedMonth
+    {
+        int year;
+        int month;
+        QString reason;
+    };
+    // The months whose last write failed, with the reason, oldest first.
+    QList<UnsavedMonth> unsavedMonths() const;
+    // Why the month's file could not be read, when it could not.
+    std::optional<QString> unreadableReason(int year, int month) const;
+    // Why the list file cannot be read; empty when it can. Nothing is booked
+    // and the lists are not changed while it cannot.
+    QString listFileProblem() const { return m_listFileProblem; }
     // Loads every month and writes each one again, edited or not.
     void resaveAllDataFile();
     // Optionally saves, then forgets every loaded list and the folder. When
@@ -62,11 +81,12 @@ public:
 
     // The records grouped by year * 100 + month, each group in the given order.
     static QMap<int, PaymentArray> assortDataArray(const PaymentArray &records);
-    // Adds each month's records to that month and writes it at once. A month
-    // whose file could not be read takes nothing: false then, and reported,
-    // so that the caller keeps what it could not book.
-    bool addData(const PaymentArray &records);
-    bool addData(const PaymentArray &records, int year, int month);
+    // Adds each month's records to that month and writes it at once: booked
+    // means on the disk. A month that cannot be written, or whose file could
+    // not be read, takes nothing and is as it was: false then, with the
+    // reason, so that the caller keeps what it could not book.
+    bool addData(const PaymentArray &records, QString *error = nullptr);
+    bool addData(const PaymentArray &records, int year, int month, QString *error = nullptr);
     // Removes the records from their months; written at the next save.
     void deleteData(const PaymentArray &records);
     void deleteData(const PaymentArray &records, int year, int month);
@@ -106,6 +126,10 @@ signals:
     void monthFileUnreadable(const QString &path, const QString &reason);
     // A month file could not be written; its month stays edited.
     void monthFileNotWritten(const QString &path, const QString &reason);
+    // The list file cannot be read (or can again, with an empty reason).
+    void listFileUnreadable(const QString &path, const QString &reason);
+    // A month joined or left the unsaved months.
+    void unsavedMonthsChanged();
     // A conversion of the stored data has done `done` of `total` steps.
     void conversionProgress(int done, int total);
 
@@ -116,6 +140,9 @@ private:
     std::shared_ptr<MonthDataList> readMonthFile(int year, int month);
     void settleLoadedList(MonthDataList *list);
     void scheduleSave(DataList *list);
+    // Writes without reporting; the caller decides what a failure means.
+    bool writeMonth(MonthDataList *list, QString *reason);
+    void setMonthWritten(const MonthDataList *list, const QString &failure);
 
     // year * 100 + month to list; month 0 holds the year list.
     QHash<int, std::shared_ptr<DataList>> m_listStock;
@@ -130,4 +157,9 @@ private:
     // Edited months reach the disk about a second after the last change, not
     // only at quit.
     QTimer m_saveTimer;
+    QTimer m_retryTimer;
+    // year * 100 + month to why its file could not be read or written.
+    QMap<int, QString> m_unreadableMonths;
+    QMap<int, QString> m_notWritten;
+    QString m_listFileProblem;
 };

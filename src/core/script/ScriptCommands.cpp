@@ -1,13 +1,25 @@
 #include "script/ScriptCommands.h"
 
+#include "entry/EntryCheck.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
 #include "model/NumberValue.h"
+#include "script/ScriptNames.h"
 #include "search/StringUtility.h"
+
+#include <QCoreApplication>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace ScriptCommands {
+
+namespace {
+void refuse(Refusal *refusal, Refusal reason)
+{
+    if (refusal)
+        *refusal = std::move(reason);
+}
+} // namespace
 
 QVariantMap recordProperties(const PaymentData &record)
 {
@@ -31,8 +43,14 @@ QList<QVariantMap> recordProperties(const PaymentArray &records)
     return list;
 }
 
-PaymentDataPtr makeNewPaymentData(KController &controller, const QVariantMap &fields)
+PaymentDataPtr makeNewPaymentData(KController &controller, const QVariantMap &fields,
+                                  Refusal *refusal)
 {
+    if (const auto problem = EntryCheck::newEntryProblem(
+            fields, int(controller.categoryList().size()), int(controller.paywayList().size()))) {
+        refuse(refusal, {ScriptNames::InvalidArgsError, *problem});
+        return nullptr;
+    }
     auto record = std::make_shared<PaymentData>();
     // In this order: a day is normalised through the year and month as they
     // stand when it is set.
@@ -52,9 +70,44 @@ PaymentDataPtr makeNewPaymentData(KController &controller, const QVariantMap &fi
         record->setPayway(integerValueOf(v));
     // Booked, it reports later edits like any other record.
     record->setInitializing(false);
-    if (!controller.addData({record}))
+    if (controller.unreadableReason(record->year(), record->month())) {
+        refuse(refusal, {ScriptNames::BookingFailedError,
+                    QCoreApplication::translate("ScriptCommands",
+                                                "The entry could not be booked: the file of its "
+                                                "month cannot be read.")});
         return nullptr;
+    }
+    if (QString reason; !controller.addData({record}, &reason)) {
+        refuse(refusal, {ScriptNames::NotSavedError,
+                    QCoreApplication::translate("ScriptCommands",
+                                                "The entry was not booked: %1").arg(reason)});
+        return nullptr;
+    }
     return record;
+}
+
+std::shared_ptr<DataList> readableList(KController &controller, const std::shared_ptr<DataList> &list,
+                                       const QString &asked, Refusal *refusal)
+{
+    if (!list) {
+        refuse(refusal, {ScriptNames::NoSuchListError,
+                    QCoreApplication::translate("ScriptCommands", "There is no month %1.").arg(asked)});
+        return nullptr;
+    }
+    const int first = list->month() == 0 ? 1 : list->month();
+    const int last = list->month() == 0 ? 12 : list->month();
+    for (int month = first; month <= last; ++month) {
+        if (const auto reason = controller.unreadableReason(list->year(), month)) {
+            refuse(refusal, {ScriptNames::UnreadableError,
+                        QCoreApplication::translate("ScriptCommands",
+                                                    "The entries of %1/%2 cannot be read: %3")
+                            .arg(month)
+                            .arg(list->year())
+                            .arg(*reason)});
+            return nullptr;
+        }
+    }
+    return list;
 }
 
 QList<std::shared_ptr<DataList>> dataLists(KController &controller)

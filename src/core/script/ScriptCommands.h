@@ -23,13 +23,30 @@ namespace ScriptCommands {
 QVariantMap recordProperties(const PaymentData &record);
 QList<QVariantMap> recordProperties(const PaymentArray &records);
 
+// Why a script's request was refused: the error's D-Bus name (one of
+// ScriptNames) and a message for the person who ran the script.
+struct Refusal
+{
+    QLatin1StringView name;
+    QString message;
+};
+
 // A new record from the named fields present, set in the order year, month,
 // date, category, details, amount, payway through the record's own setters
 // (so a month of 14 files it under December); the rest as a new record has
 // them (today, category 0, no details, amount 0, payway 0). It is booked at
-// once: added to its month and that month written. Null when the month could
-// not take it (an impossible month, or one whose file could not be read).
-PaymentDataPtr makeNewPaymentData(KController &controller, const QVariantMap &fields);
+// once: added to its month and that month written. Null, with the refusal,
+// when the fields do not pass the door checks, when the month could not take
+// it (its file could not be read), or when the month could not be written
+// (the month is then as it was).
+PaymentDataPtr makeNewPaymentData(KController &controller, const QVariantMap &fields,
+                                  Refusal *refusal = nullptr);
+
+// The list for a script, or nothing with the refusal: no such month (an
+// impossible one, or a year outside 1–9999), or one whose file cannot be
+// read (a year list, when any of its months cannot).
+std::shared_ptr<DataList> readableList(KController &controller, const std::shared_ptr<DataList> &list,
+                                       const QString &asked, Refusal *refusal);
 
 // Every month of the data folder (all are loaded first) with every other
 // list in the cache, by year * 100 + month ascending.

@@ -14,9 +14,14 @@ inline constexpr QLatin1StringView ApplicationInterface{"org.penwick.Penwick.App
 inline constexpr QLatin1StringView DataListInterface{"org.penwick.Penwick.DataList"};
 
 // Errors: the program waits for its password; no such month; the month
-// could not take a new entry.
+// could not take a new entry; it could, but its file could not be written, so
+// it did not; the month's file cannot be read; an argument is not one the
+// method takes.
 inline constexpr QLatin1StringView LockedError{"org.penwick.Penwick.Error.Locked"};
 inline constexpr QLatin1StringView NoSuchListError{"org.penwick.Penwick.Error.NoSuchList"};
 inline constexpr QLatin1StringView BookingFailedError{"org.penwick.Penwick.Error.BookingFailed"};
+inline constexpr QLatin1StringView NotSavedError{"org.penwick.Penwick.Error.NotSaved"};
+inline constexpr QLatin1StringView UnreadableError{"org.penwick.Penwick.Error.Unreadable"};
+inline constexpr QLatin1StringView InvalidArgsError{"org.freedesktop.DBus.Error.InvalidArgs"};
 
 } // namespace ScriptNames

@@ -1,15 +1,23 @@
 #include "storage/ListFile.h"
 
 #include "storage/ColorArchive.h"
+#include "storage/DurableFile.h"
 #include "storage/PropertyList.h"
 
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
+#include <QCoreApplication>
+
+#include <algorithm>
 
 namespace ListFile {
 
 namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("ListFile", text);
+}
 
 QVariantList listResource(const QString &path)
 {
@@ -19,28 +27,34 @@ QVariantList listResource(const QString &path)
     return PropertyList::fromData(file.readAll()).toList();
 }
 
-bool writeDictionary(const QString &path, const QVariantMap &dictionary)
+bool writeDictionary(const QString &path, const QVariantMap &dictionary, QString *error)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(PropertyList::toXml(dictionary));
-    return file.commit();
+    return DurableFile::write(path, PropertyList::toXml(dictionary), error);
 }
 
-// The dictionary of the file, or nothing when there is a file that does not
-// hold one.
-std::optional<QVariantMap> readDictionary(const QString &path)
+bool isListOf(const QVariant &value, QMetaType::Type type)
 {
-    QFile file(path);
-    if (!file.exists())
-        return QVariantMap();
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    const QVariant value = PropertyList::fromData(file.readAll());
-    if (value.typeId() != QMetaType::QVariantMap)
-        return std::nullopt;
-    return value.toMap();
+    if (value.typeId() != QMetaType::QVariantList)
+        return false;
+    const QVariantList list = value.toList();
+    return std::all_of(list.cbegin(), list.cend(),
+                       [type](const QVariant &item) { return item.typeId() == type; });
+}
+
+// Why the dictionary is not a list file, or nothing when it is one.
+std::optional<QString> problemOf(const QVariantMap &dictionary)
+{
+    for (const QLatin1StringView key : {CategoryList, PaywayList}) {
+        if (!dictionary.contains(key))
+            return tr("it has no %1").arg(key);
+        if (!isListOf(dictionary.value(key), QMetaType::QString))
+            return tr("its %1 is not a list of names").arg(key);
+    }
+    if (dictionary.value(CategoryList).toList().isEmpty())
+        return tr("its %1 is empty").arg(CategoryList);
+    if (dictionary.contains(ColorList) && !isListOf(dictionary.value(ColorList), QMetaType::QByteArray))
+        return tr("its %1 is not a list of colours").arg(ColorList);
+    return std::nullopt;
 }
 
 } // namespace
@@ -58,7 +72,7 @@ QString dataDictionaryPath(const QString &folder)
     return path;
 }
 
-bool makeInitialDataToPath(const QString &folder)
+bool makeInitialDataToPath(const QString &folder, QString *error)
 {
     QDir().mkpath(folder);
     const QVariantList categories = listResource(QStringLiteral(":/DefaultCategory.plist"));
@@ -70,39 +84,55 @@ bool makeInitialDataToPath(const QString &folder)
         {ColorList, colors},
         {PaywayList, listResource(QStringLiteral(":/DefaultPayway.plist"))},
     };
-    return writeDictionary(dictionaryPathString(folder), dictionary);
+    return writeDictionary(dictionaryPathString(folder), dictionary, error);
+}
+
+std::optional<QVariantMap> read(const QString &folder, QString *error)
+{
+    const QString path = dataDictionaryPath(folder);
+    QFile file(path);
+    QString reason;
+    if (!file.open(QIODevice::ReadOnly)) {
+        reason = file.errorString();
+    } else {
+        const QVariant value = PropertyList::fromData(file.readAll(), &reason);
+        if (value.typeId() == QMetaType::QVariantMap) {
+            const QVariantMap dictionary = value.toMap();
+            const auto problem = problemOf(dictionary);
+            if (!problem)
+                return dictionary;
+            reason = *problem;
+        } else if (value.isValid()) {
+            reason = tr("it holds no dictionary");
+        }
+    }
+    if (error)
+        *error = tr("The list file %1 cannot be read: %2").arg(path, reason);
+    return std::nullopt;
 }
 
 QVariantList preferenceDataListForKey(const QString &folder, QLatin1StringView key)
 {
-    const auto dictionary = readDictionary(dataDictionaryPath(folder));
-    if (!dictionary)
-        return {};
-    return dictionary->value(key).toList();
+    const auto dictionary = read(folder);
+    return dictionary ? dictionary->value(key).toList() : QVariantList();
 }
 
 bool setPreferenceDataListForKey(const QString &folder, const QVariantList &list,
-                                 QLatin1StringView key)
+                                 QLatin1StringView key, QString *error)
 {
-    return setPreferenceDataLists(folder, {{key, list}});
+    return setPreferenceDataLists(folder, {{key, list}}, error);
 }
 
-bool setPreferenceDataLists(const QString &folder, const QVariantMap &lists)
+bool setPreferenceDataLists(const QString &folder, const QVariantMap &lists, QString *error)
 {
-    const QString path = dataDictionaryPath(folder);
-    auto dictionary = readDictionary(path);
-    if (!dictionary) {
-        // Keep what could not be read; an earlier copy is never replaced.
-        QString keep = path + QStringLiteral(".unreadable");
-        for (int n = 2; QFile::exists(keep); ++n)
-            keep = path + QStringLiteral(".unreadable-%1").arg(n);
-        if (!QFile::copy(path, keep))
-            return false;
-        dictionary = QVariantMap();
-    }
+    // A file that cannot be read is never replaced: it may be the only copy
+    // of a household's lists, waiting to be mended.
+    auto dictionary = read(folder, error);
+    if (!dictionary)
+        return false;
     for (auto it = lists.cbegin(); it != lists.cend(); ++it)
         dictionary->insert(it.key(), it.value());
-    return writeDictionary(path, *dictionary);
+    return writeDictionary(dictionaryPathString(folder), *dictionary, error);
 }
 
 } // namespace ListFile

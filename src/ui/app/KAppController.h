@@ -1,5 +1,7 @@
 #pragma once
 
+#include "script/ScriptHost.h"
+
 #include <QKeySequence>
 #include <QObject>
 #include <QPointer>
@@ -17,6 +19,7 @@ class ListWinController;
 class PrefWinController;
 class QAction;
 class QMenuBar;
+class QMessageBox;
 class QWidget;
 
 // The application controller's window half: it starts the program (password,
@@ -24,7 +27,7 @@ class QWidget;
 // menu every window carries, tells the user what the store could not do,
 // and decides whether the application may quit. The data half, KController,
 // is owned here and shared with every window.
-class KAppController : public QObject
+class KAppController : public QObject, public ScriptHost
 {
     Q_OBJECT
 
@@ -37,8 +40,9 @@ public:
     explicit KAppController(QObject *parent = nullptr);
     ~KAppController() override;
 
-    KController *ledger() const { return m_ledger.get(); }
-    bool running() const { return m_running; }
+    KController *ledger() const override { return m_ledger.get(); }
+    bool running() const override { return m_running; }
+    void showWindow(Window window) override;
 
     // Asks for the password when one is stored and starts up once it is
     // given; without one, starts at once. Cancelling quits.
@@ -62,7 +66,13 @@ public:
     // then asks the user, and quits itself if told to.
     bool applicationShouldTerminate();
     // Writes every edited month; connected to the application's last moments.
+    // Months that still cannot be written go to a rescue folder, unless the
+    // user chose to quit without them.
     void applicationWillTerminate();
+    // The last window was closed: quit as from the menu, or, when the user
+    // stays, show the list window again so that the program is not left
+    // without one.
+    void lastWindowClosed();
 
     // The windows, each made on first use and kept to the end. Nothing
     // opens before start-up has passed the password.
@@ -80,8 +90,12 @@ public:
     void showPaywayList(int payway, int year, int month);
 
 public slots:
-    // Quit, as chosen from the menu: asks applicationShouldTerminate first.
+    // Quit, as chosen from the menu: asks applicationShouldTerminate first,
+    // then about months that cannot be saved.
     void quit();
+    // Told to stop from outside (a signal, the session ending): no questions;
+    // what cannot be saved goes to a rescue folder on the way out.
+    void terminate();
 
 signals:
     // The preferences moved the data folder: the single-instance lock follows.
@@ -98,6 +112,13 @@ private:
     void openStartWindows();
     void reportMonthFileUnreadable(const QString &path, const QString &reason);
     void reportMonthFileNotWritten(const QString &path, const QString &reason);
+    void reportListFileUnreadable(const QString &path, const QString &reason);
+    // Months that could not be written stop the quit: the user decides.
+    void askAboutUnsavedMonths();
+    bool saveRescueCopy();
+    void keepAWindowOpen();
+    // Rescue folders of an earlier run, offered back one by one.
+    void offerRescuedMonths();
     void report(const QString &text, const QString &details);
     void showAbout();
 
@@ -114,6 +135,10 @@ private:
     // that stays full, is told once rather than at every save.
     QSet<QString> m_reportedUnreadable;
     QSet<QString> m_reportedNotWritten;
+    // The user chose to quit without the months that could not be saved.
+    bool m_quitWithoutSaving = false;
+    bool m_quitting = false;
+    QPointer<QMessageBox> m_unsavedSheet;
 
     QAction *m_quitAction = nullptr;
     QAction *m_aboutAction = nullptr;

@@ -399,13 +399,16 @@ void InputWinController::bookInputData()
     }
 
     // Month by month, so that a month that cannot take its entries (its file
-    // could not be read) keeps them here instead of losing them.
+    // could not be read or written) keeps them here instead of losing them.
     QSet<int> refusedMonths;
+    QStringList reasons;
     const auto months = KController::assortDataArray(kept);
     for (auto it = months.cbegin(); it != months.cend(); ++it) {
         const PaymentDataPtr &first = it->constFirst();
-        if (!m_controller->addData(*it, first->year(), first->month()))
+        if (QString reason; !m_controller->addData(*it, first->year(), first->month(), &reason)) {
             refusedMonths.insert(it.key());
+            reasons.append(reason);
+        }
     }
 
     for (const Entry &entry : std::as_const(entries)) {
@@ -422,13 +425,27 @@ void InputWinController::bookInputData()
 
     const int afterInputWork = m_afterInputWork;
     m_afterInputWork = 0;
-    if (!refusedMonths.isEmpty())
+    if (!refusedMonths.isEmpty()) {
+        reportNotBooked(reasons);
         return;
+    }
     close();
     if (afterInputWork == 1)
         emit listWindowRequested();
     else if (afterInputWork == 2)
         emit quitRequested();
+}
+
+void InputWinController::reportNotBooked(const QStringList &reasons)
+{
+    auto *box = new QMessageBox(QMessageBox::Warning, windowTitle(),
+                                tr("Some entries were not booked and are still here."),
+                                QMessageBox::Ok, this);
+    box->setObjectName(QStringLiteral("notBookedSheet"));
+    box->setInformativeText(reasons.join(u"\n\n"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::WindowModal);
+    box->open();
 }
 
 void InputWinController::cancelInput()

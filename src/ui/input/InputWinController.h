@@ -104,6 +104,8 @@ private:
     bool isRowEmpty(const InputRow *row) const;
     double spendingTotal() const;
     void bookInputData();
+    // Tells why rows stayed in the window instead of being booked.
+    void reportNotBooked(const QStringList &reasons);
     void selectDescription(InputRow *row, int index);
     void descriptionEditingEnded(InputRow *row);
     void fillFromDescription(InputRow *row, const DescriptionMemory::Record &record);

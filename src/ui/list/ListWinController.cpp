@@ -97,6 +97,13 @@ ListWinController::ListWinController(KController *controller, QWidget *parent)
     connect(&m_summaryTimer, &QTimer::timeout, this, &ListWinController::commitSummary);
     connect(m_controller, &KController::aboutToSaveAllEditedData, this,
             &ListWinController::editSummary);
+    m_unsavedLabel = new QLabel(this);
+    m_unsavedLabel->setObjectName(QStringLiteral("unsavedLabel"));
+    m_unsavedLabel->setWordWrap(true);
+    statusBar()->addPermanentWidget(m_unsavedLabel, 1);
+    connect(m_controller, &KController::unsavedMonthsChanged, this,
+            &ListWinController::showUnsavedMonths);
+    showUnsavedMonths();
 
     Notifications *notifications = Notifications::instance();
     // Any month may change this one's totals or last month's balance; the
@@ -123,6 +130,23 @@ ListWinController::ListWinController(KController *controller, QWidget *parent)
     m_listTable->horizontalHeader()->restoreState(settings.savedLayout(SettingsKeys::DataListTable));
     readColumnMenuStates();
     m_splitView->setAutosaveName(SettingsKeys::ListWindowSplitView);
+}
+
+void ListWinController::showUnsavedMonths()
+{
+    const auto months = m_controller->unsavedMonths();
+    m_unsavedLabel->setVisible(!months.isEmpty());
+    if (months.isEmpty()) {
+        m_unsavedLabel->clear();
+        return;
+    }
+    QStringList names;
+    for (const auto &month : months)
+        names.append(QStringLiteral("%1/%2").arg(month.month).arg(month.year));
+    m_unsavedLabel->setText(
+        tr("Not saved: %1. Penwick tries again every 30 seconds and at every change.")
+            .arg(names.join(QStringLiteral(", "))));
+    m_unsavedLabel->setToolTip(months.constLast().reason);
 }
 
 ListWinController::~ListWinController()

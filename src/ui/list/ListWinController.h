@@ -89,6 +89,9 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    // The months that could not be written, in the status bar until they are.
+    void showUnsavedMonths();
+
     void buildWindow();
     QWidget *buildMonthBar();
     QWidget *buildSearchPanel();
@@ -172,4 +175,5 @@ private:
     QTimer m_summaryTimer;
     PaymentArray m_selectionToRestore;
     bool m_sorting = false;
+    QLabel *m_unsavedLabel = nullptr;
 };

@@ -1,0 +1,131 @@
+#include "TestHelpers.h"
+
+#include "storage/DurableFile.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cerrno>
+#include <cstring>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+Q_DECLARE_METATYPE(DurableFile::Step)
+
+// A write that fails at any step leaves the old file exactly as it was, no
+// temporary file behind, and says why in the system's words.
+class TestDurableFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void failureAtEachStepKeepsTheOldFile_data();
+    void failureAtEachStepKeepsTheOldFile();
+    void batchWritesCountOnlyOnceSynced();
+    void realFullAndReadOnlyDisk();
+
+private:
+    QTemporaryDir m_folder;
+    QString m_path;
+};
+
+void TestDurableFile::init()
+{
+    m_path = m_folder.filePath(u"Data_1997_2.Penwick"_s);
+    QVERIFY(DurableFile::write(m_path, "twenty entries"));
+}
+
+void TestDurableFile::cleanup()
+{
+    DurableFile::setFaultForTesting(std::nullopt);
+}
+
+void TestDurableFile::failureAtEachStepKeepsTheOldFile_data()
+{
+    QTest::addColumn<DurableFile::Step>("step");
+    QTest::addColumn<int>("error");
+    QTest::newRow("open, read-only") << DurableFile::Step::Open << EROFS;
+    QTest::newRow("write, disk full") << DurableFile::Step::Write << ENOSPC;
+    QTest::newRow("sync, disk full") << DurableFile::Step::SyncFile << ENOSPC;
+    QTest::newRow("sync, I/O error") << DurableFile::Step::SyncFile << EIO;
+    QTest::newRow("rename, read-only") << DurableFile::Step::Rename << EROFS;
+}
+
+void TestDurableFile::failureAtEachStepKeepsTheOldFile()
+{
+    QFETCH(DurableFile::Step, step);
+    QFETCH(int, error);
+    DurableFile::setFaultForTesting(DurableFile::Fault{step, error});
+    QString why;
+    QVERIFY(!DurableFile::write(m_path, "nothing", &why));
+    QVERIFY2(why.contains(QString::fromLocal8Bit(std::strerror(error))), qPrintable(why));
+    QVERIFY2(why.contains(m_path), qPrintable(why));
+    QCOMPARE(readBytes(m_path), QByteArray("twenty entries"));
+    QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden),
+             QStringList{u"Data_1997_2.Penwick"_s});
+
+    // Once the disk is well again, the same write goes through.
+    DurableFile::setFaultForTesting(std::nullopt);
+    QVERIFY(DurableFile::write(m_path, "twenty-one entries"));
+    QCOMPARE(readBytes(m_path), QByteArray("twenty-one entries"));
+}
+
+void TestDurableFile::batchWritesCountOnlyOnceSynced()
+{
+    const QString side = m_path + u".converting"_s;
+    DurableFile::setFaultForTesting(DurableFile::Fault{DurableFile::Step::Write, ENOSPC});
+    QVERIFY(!DurableFile::writeUnsynced(side, "renumbered"));
+    DurableFile::setFaultForTesting(DurableFile::Fault{DurableFile::Step::SyncFile, EIO});
+    QVERIFY(DurableFile::writeUnsynced(side, "renumbered"));
+    QString why;
+    QVERIFY(!DurableFile::syncToDisk(side, &why));
+    QVERIFY(why.contains(QString::fromLocal8Bit(std::strerror(EIO))));
+    DurableFile::setFaultForTesting(DurableFile::Fault{DurableFile::Step::SyncFolder, EIO});
+    QVERIFY(!DurableFile::syncFolder(m_folder.path()));
+    DurableFile::setFaultForTesting(std::nullopt);
+    QVERIFY(DurableFile::syncToDisk(side));
+    QVERIFY(DurableFile::rename(side, m_path));
+    QCOMPARE(readBytes(m_path), QByteArray("renumbered"));
+}
+
+// The real thing: a tiny file system filled to the brim, then made
+// read-only. Only root may mount one, so others skip this.
+void TestDurableFile::realFullAndReadOnlyDisk()
+{
+    if (::geteuid() != 0)
+        QSKIP("mounting a small file system needs root");
+    QTemporaryDir mountPoint;
+    const auto run = [](const QString &program, const QStringList &arguments) {
+        return QProcess::execute(program, arguments) == 0;
+    };
+    if (!run(u"mount"_s, {u"-t"_s, u"tmpfs"_s, u"-o"_s, u"size=64k"_s, u"tmpfs"_s, mountPoint.path()}))
+        QSKIP("this machine does not let us mount a file system");
+    const auto unmount = qScopeGuard([&] { run(u"umount"_s, {mountPoint.path()}); });
+
+    const QString path = mountPoint.filePath(u"Data_1997_2.Penwick"_s);
+    const QByteArray month(20 * 1024, 'm');
+    QVERIFY(DurableFile::write(path, month));
+    // Fill what is left, so that a second copy of the month cannot fit.
+    QVERIFY(run(u"sh"_s, {u"-c"_s, u"dd if=/dev/zero of=%1 bs=4k 2>/dev/null; true"_s.arg(
+                                      mountPoint.filePath(u"filler"_s))}));
+    QString why;
+    QVERIFY(!DurableFile::write(path, QByteArray(30 * 1024, 'n'), &why));
+    QVERIFY2(why.contains(QString::fromLocal8Bit(std::strerror(ENOSPC))), qPrintable(why));
+    QCOMPARE(readBytes(path), month);
+    QCOMPARE(QDir(mountPoint.path()).entryList(QDir::Files | QDir::Hidden),
+             (QStringList{u"Data_1997_2.Penwick"_s, u"filler"_s}));
+
+    QVERIFY(run(u"mount"_s, {u"-o"_s, u"remount,ro"_s, mountPoint.path()}));
+    why.clear();
+    QVERIFY(!DurableFile::write(path, "small", &why));
+    QVERIFY(why.contains(path));
+    QCOMPARE(readBytes(path), month);
+}
+
+QTEST_GUILESS_MAIN(TestDurableFile)
+#include "tst_durablefile.moc"
