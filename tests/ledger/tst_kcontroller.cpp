@@ -171,6 +171,10 @@ void TestKController::impossibleMonthsAreRefused()
     QVERIFY(!controller.listForYear(2006, 13));
     QTest::ignoreMessage(QtWarningMsg, "month:-1 is not available!!");
     QVERIFY(!controller.listForYear(2006, -1));
+    // Years no month file can be named for, nor a calendar hold.
+    for (int year : {-1, 0, 10000, 2147483647})
+        QVERIFY(!controller.listForYear(year, 2));
+    QVERIFY(!controller.readDataFromPath(m_folder + u"/Data_-1_2.Penwick"_s));
 }
 
 void TestKController::yearListGathersTheCachedMonths()

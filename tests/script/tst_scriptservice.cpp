@@ -331,8 +331,9 @@ void TestScriptService::doorChecksThroughDBus()
         // The service still answers everything else.
         QCOMPARE(application().call(u"DataLists"_s).type(), QDBusMessage::ReplyMessage);
     }
-    QCOMPARE(application().call(u"DataListWithID"_s, -9802).errorName(),
-             QString(ScriptNames::NoSuchListError));
+    for (int id : {-9802, 1000001, 214748364})
+        QCOMPARE(application().call(u"DataListWithID"_s, id).errorName(),
+                 QString(ScriptNames::NoSuchListError));
 }
 
 void TestScriptService::doorChecksThroughPenwickctl_data()

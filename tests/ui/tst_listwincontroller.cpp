@@ -9,6 +9,7 @@
 #include "model/Notifications.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
+#include "storage/DurableFile.h"
 #include "widgets/CheckPopUpButton.h"
 
 #include <QAction>
@@ -29,6 +30,8 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <cerrno>
 #include <QToolButton>
 
 #include <memory>
@@ -451,6 +454,23 @@ void TestListWinController::memoIsKeptWithItsMonth()
 
     m_window->moveMonth(-1);
     QCOMPARE(memo->toPlainText(), u"Car inspection"_s);
+
+    // One the disk does not take stays in its month, and the status bar says
+    // so until it is saved.
+    const auto faultGuard = qScopeGuard([] { DurableFile::setFaultForTesting(std::nullopt); });
+    DurableFile::setFaultForTesting(
+        DurableFile::Fault{DurableFile::Step::Write, ENOSPC, m_controller->dataFolderPath()});
+    memo->moveCursor(QTextCursor::End);
+    QTest::keyClicks(memo, u", tyres"_s);
+    m_window->moveMonth(1);
+    QVERIFY(may->isEdited());
+    const auto *unsaved = child<QLabel>(m_window.get(), u"unsavedLabel"_s);
+    QVERIFY(!unsaved->isHidden());
+    QVERIFY2(unsaved->text().contains(u"5/2006"_s), qPrintable(unsaved->text()));
+    DurableFile::setFaultForTesting(std::nullopt);
+    QVERIFY(m_controller->saveAllEditedData());
+    QVERIFY(unsaved->isHidden());
+    QCOMPARE(may->summary(), u"Car inspection, tyres"_s);
 }
 
 void TestListWinController::opensOnTheClosingDayMonth()

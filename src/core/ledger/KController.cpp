@@ -2,6 +2,7 @@
 
 #include "ledger/ConversionJournal.h"
 #include "ledger/DataFolder.h"
+#include "model/EntryLimits.h"
 #include "model/ModifMonthList.h"
 #include "model/MonthDataList.h"
 #include "model/Notifications.h"
@@ -93,6 +94,9 @@ std::shared_ptr<DataList> KController::listForYear(int year, int month)
         qWarning("month:%d is not available!!", month);
         return nullptr;
     }
+    // No file name or calendar outside these years.
+    if (!EntryLimits::isYearInRange(year))
+        return nullptr;
     const int key = cacheKey(year, month);
     if (const auto cached = m_listStock.constFind(key); cached != m_listStock.cend())
         return cached.value();
