@@ -372,14 +372,6 @@ The month is shown empty and cannot be changed, and its file "%2" is left exactl
             <translation>The entries of %1 could not be saved.</translation>
         </message>
         <message>
-            <source>%1
-
-The changes are kept in memory and Penwick tries again at the next save. Free some disk space or check the permissions of "%2", and keep Penwick open until it has saved.</source>
-            <translation>%1
-
-The changes are kept in memory and Penwick tries again at the next save. Free some disk space or check the permissions of "%2", and keep Penwick open until it has saved.</translation>
-        </message>
-        <message>
             <source>Penwick</source>
             <translation>Penwick</translation>
         </message>
@@ -490,6 +482,14 @@ The file "%2" is left exactly as it is, and nothing can be booked until it is me
             <translation>%1
 
 The file "%2" is left exactly as it is, and nothing can be booked until it is mended or replaced.</translation>
+        </message>
+        <message>
+            <source>%1
+
+The changes are kept in memory, and Penwick tries again every 30 seconds and at every change. Free some disk space or check the folder's permissions.</source>
+            <translation>%1
+
+The changes are kept in memory, and Penwick tries again every 30 seconds and at every change. Free some disk space or check the folder's permissions.</translation>
         </message>
     </context>
     <context>

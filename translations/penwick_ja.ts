@@ -371,14 +371,6 @@ The month is shown empty and cannot be changed, and its file "%2" is left exactl
             <translation>%1 のデータを保存できませんでした。</translation>
         </message>
         <message>
-            <source>%1
-
-The changes are kept in memory and Penwick tries again at the next save. Free some disk space or check the permissions of "%2", and keep Penwick open until it has saved.</source>
-            <translation>%1
-
-変更はメモリーに残してあり、次の保存で再び書き込みます。ディスクの空きを作るか「%2」のアクセス権を確かめ、保存が済むまで Penwick を終了しないでください。</translation>
-        </message>
-        <message>
             <source>Penwick</source>
             <translation>Penwick</translation>
         </message>
@@ -489,6 +481,14 @@ The file "%2" is left exactly as it is, and nothing can be booked until it is me
             <translation>%1
 
 ファイル「%2」はそのまま残しています。修復または置き換えるまで記入できません。</translation>
+        </message>
+        <message>
+            <source>%1
+
+The changes are kept in memory, and Penwick tries again every 30 seconds and at every change. Free some disk space or check the folder's permissions.</source>
+            <translation>%1
+
+変更はメモリに残しており、30 秒ごとと変更のたびに再試行します。ディスクの空きを作るか、フォルダのアクセス権を確かめてください。</translation>
         </message>
     </context>
     <context>

@@ -613,10 +613,9 @@ void KAppController::reportMonthFileNotWritten(const QString &path, const QStrin
         return;
     m_reportedNotWritten.insert(path);
     report(tr("The entries of %1 could not be saved.").arg(monthOfPath(path)),
-           tr("%1\n\nThe changes are kept in memory and Penwick tries again at the next save. "
-              "Free some disk space or check the permissions of \"%2\", and keep Penwick open "
-              "until it has saved.")
-               .arg(reason, QDir::toNativeSeparators(path)));
+           tr("%1\n\nThe changes are kept in memory, and Penwick tries again every 30 seconds "
+              "and at every change. Free some disk space or check the folder's permissions.")
+               .arg(reason));
 }
 
 void KAppController::report(const QString &text, const QString &details)
