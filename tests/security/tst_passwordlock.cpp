@@ -9,74 +9,80 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-// The hash as text, so that a failed comparison shows both values.
-QString hashOf(const QString &text)
-{
-    return PasswordLock::ppCrypt(text).value_or(u"<hashing failed>"_s);
-}
-
-} // namespace
-
 class TestPasswordLock : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void hashesAreTraditionalDesCrypt_data();
-    void hashesAreTraditionalDesCrypt();
-    void onlyTheFirstEightBytesCount();
-    void matchesNeedsTheRightText();
-    void savedHashReachesTheDiskAndEmptyRemovesIt();
+    void earlierDesHashesStillMatch_data();
+    void earlierDesHashesStillMatch();
+    void newHashesAreSaltedYescryptOfTheWholeText();
+    void desHashIsUpgradedAtUnlock();
+    void savedHashReachesTheDiskForTheUserAlone();
 
 private:
     TestDataFolder m_home;
 };
 
-void TestPasswordLock::hashesAreTraditionalDesCrypt_data()
+void TestPasswordLock::earlierDesHashesStillMatch_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("hash");
 
-    // Computed with another crypt(3) implementation; they also pin the
-    // salt, which must never change.
+    // Stored by earlier versions (DES under the fixed salt "pW"), computed
+    // with another crypt(3) implementation.
     QTest::newRow("ascii") << u"abc"_s << u"pWNtzVs0HB6cU"_s;
     QTest::newRow("spaces") << u"mot de passe"_s << u"pWhEhdyYlspdo"_s;
     QTest::newRow("latin") << u"Äpfel"_s << u"pWj9K0vLiFF1U"_s;
     QTest::newRow("japanese") << u"パスワード"_s << u"pWu0ZI8XkWiTs"_s;
 }
 
-void TestPasswordLock::hashesAreTraditionalDesCrypt()
+void TestPasswordLock::earlierDesHashesStillMatch()
 {
     QFETCH(QString, text);
     QFETCH(QString, hash);
-    QCOMPARE(hashOf(text), hash);
+    QVERIFY(PasswordLock::isLegacyHash(hash));
+    QVERIFY(PasswordLock::matches(text, hash));
+    QVERIFY(!PasswordLock::matches(QString(), hash));
 }
 
-void TestPasswordLock::onlyTheFirstEightBytesCount()
+void TestPasswordLock::newHashesAreSaltedYescryptOfTheWholeText()
 {
-    QCOMPARE(hashOf(u"password1"_s), hashOf(u"password2"_s));
-    QCOMPARE(hashOf(u"password"_s + QString(100, u'x')), hashOf(u"password"_s));
-    QCOMPARE_NE(hashOf(u"abc"_s), hashOf(u"abd"_s));
-}
+    const QString longText = u"correct horse battery staple"_s + QString(100, u'x');
+    const QString hash = PasswordLock::ppCrypt(longText).value_or(QString());
+    QVERIFY2(hash.startsWith(u"$y$"_s), qPrintable(hash));
+    QVERIFY(!PasswordLock::isLegacyHash(hash));
+    QVERIFY(PasswordLock::matches(longText, hash));
+    // Every character counts, the last one too.
+    QVERIFY(!PasswordLock::matches(longText.chopped(1) + u'y', hash));
+    QVERIFY(!PasswordLock::matches(u"correct "_s, hash));
+    QVERIFY(PasswordLock::matches(u"パスワード"_s, *PasswordLock::ppCrypt(u"パスワード"_s)));
+    // A fresh salt each time: equal passwords do not hash alike.
+    QCOMPARE_NE(*PasswordLock::ppCrypt(u"abc"_s), *PasswordLock::ppCrypt(u"abc"_s));
 
-void TestPasswordLock::matchesNeedsTheRightText()
-{
-    QCOMPARE(hashOf(QString()), QString());
-    const QString abc = u"pWNtzVs0HB6cU"_s;
-    QVERIFY(PasswordLock::matches(u"abc"_s, abc));
-    QVERIFY(!PasswordLock::matches(u"abd"_s, abc));
-    QVERIFY(!PasswordLock::matches(QString(), abc));
     // No password set: only the empty text matches.
+    QCOMPARE(PasswordLock::ppCrypt(QString()), QString());
     QVERIFY(PasswordLock::matches(QString(), QString()));
     QVERIFY(!PasswordLock::matches(u"abc"_s, QString()));
 }
 
-void TestPasswordLock::savedHashReachesTheDiskAndEmptyRemovesIt()
+void TestPasswordLock::desHashIsUpgradedAtUnlock()
+{
+    QSettings(u"Penwick"_s, u"Penwick"_s).setValue(SettingsKeys::PasswordHash, u"pWNtzVs0HB6cU"_s);
+    QVERIFY(!PasswordLock::unlock(u"abd"_s));
+    QCOMPARE(PasswordLock::passwordFromDefault(), u"pWNtzVs0HB6cU"_s);
+    QVERIFY(PasswordLock::unlock(u"abc"_s));
+    const QString upgraded = PasswordLock::passwordFromDefault();
+    QVERIFY2(upgraded.startsWith(u"$y$"_s), qPrintable(upgraded));
+    QVERIFY(PasswordLock::unlock(u"abc"_s));
+    QCOMPARE(PasswordLock::passwordFromDefault(), upgraded);
+}
+
+void TestPasswordLock::savedHashReachesTheDiskForTheUserAlone()
 {
     QSettings settings(u"Penwick"_s, u"Penwick"_s);
-    QVERIFY(!settings.contains(SettingsKeys::PasswordHash));
+    settings.remove(SettingsKeys::PasswordHash);
+    settings.sync();
     QCOMPARE(PasswordLock::passwordFromDefault(), QString());
 
     // Read the file itself: the hash must be written at once, not at exit.
@@ -86,12 +92,16 @@ void TestPasswordLock::savedHashReachesTheDiskAndEmptyRemovesIt()
     };
 
     QVERIFY(PasswordLock::savePasswordToDefault(u"abc"_s));
-    QCOMPARE(PasswordLock::passwordFromDefault(), u"pWNtzVs0HB6cU"_s);
-    QVERIFY2(fileText().contains(u"se-XCMD=pWNtzVs0HB6cU"_s), qPrintable(fileText()));
+    const QString hash = PasswordLock::passwordFromDefault();
+    QVERIFY2(fileText().contains(u"se-XCMD="_s + hash), qPrintable(fileText()));
+    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup
+        | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    QCOMPARE(QFile::permissions(settings.fileName()) & others, QFile::Permissions());
+    QVERIFY(QFile::permissions(settings.fileName()) & QFile::ReadOwner);
 
     QVERIFY(PasswordLock::savePasswordToDefault(QString()));
     QCOMPARE(PasswordLock::passwordFromDefault(), QString());
-    QVERIFY(!fileText().contains(u"pWNtzVs0HB6cU"_s));
+    QVERIFY(!fileText().contains(hash));
 }
 
 QTEST_GUILESS_MAIN(TestPasswordLock)

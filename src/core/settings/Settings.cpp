@@ -2,6 +2,7 @@
 
 #include "settings/SettingsKeys.h"
 
+#include <QFile>
 #include <QSettings>
 #include <QVariantList>
 
@@ -15,6 +16,7 @@ Settings::~Settings() = default;
 void Settings::sync()
 {
     m_settings->sync();
+    QFile::setPermissions(m_settings->fileName(), QFile::ReadOwner | QFile::WriteOwner);
 }
 
 int Settings::version() const

@@ -21,6 +21,8 @@ public:
     ~Settings();
 
     // Writes what was set to disk now, rather than some time later.
+    // Writes to disk, the file readable and writable by the user alone: it
+    // holds the password's hash.
     void sync();
 
     // 0 until the first start has set things up.

@@ -181,6 +181,9 @@ void KAppController::startUp()
         return;
     m_running = true;
     updateMenuItems();
+    // Written once at start, so that a settings file from before it held a
+    // password hash becomes the user's alone.
+    Settings().sync();
 
     // A change of the lists cut short by a crash is finished before any
     // month is read; if it cannot be, the controller keeps the folder safe

@@ -56,8 +56,9 @@ QLineEdit *PasswordPanel::addPasswordField(const QString &label, const QString &
 
 bool PasswordPanel::matchesPassword(const QLineEdit *field) const
 {
-    const QString hash = m_password ? *m_password : PasswordLock::passwordFromDefault();
-    return PasswordLock::matches(field->text(), hash);
+    // The stored password is upgraded to the current hash when it matches.
+    return m_password ? PasswordLock::matches(field->text(), *m_password)
+                      : PasswordLock::unlock(field->text());
 }
 
 void PasswordPanel::showMessage(const QString &text)
