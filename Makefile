@@ -27,12 +27,12 @@ run: build
 test: build
 	@ctest --test-dir $(BUILD_DIR) --output-on-failure -j $(JOBS)
 
-# The core's tests once more, built with AddressSanitizer and
-# UndefinedBehaviorSanitizer.
+# The core's tests and the fuzz targets' replays once more, built with
+# AddressSanitizer and UndefinedBehaviorSanitizer; only what they need is built.
 test-sanitize: deps
 	@cmake -S . -B $(SANITIZE_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug \
-	    -DPENWICK_SANITIZE=ON -DPENWICK_BUILD_BENCH=OFF >/dev/null
-	@cmake --build $(SANITIZE_DIR) -j $(JOBS)
+	    -DPENWICK_SANITIZE=ON -DPENWICK_BUILD_BENCH=OFF $(CMAKE_FLAGS) >/dev/null
+	@cmake --build $(SANITIZE_DIR) -j $(JOBS) --target core_tests
 	@ctest --test-dir $(SANITIZE_DIR) --output-on-failure -j $(JOBS) -L core
 
 bench: build

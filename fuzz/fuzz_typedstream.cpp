@@ -1,6 +1,8 @@
 // Any bytes through the typed-stream reader and, when they read, through the
 // decoder calls that a class mapping makes.
 
+#include "storage/ColorArchive.h"
+#include "storage/MonthFile.h"
 #include "storage/TypedStreamDecoder.h"
 #include "storage/TypedStreamObject.h"
 #include "storage/TypedStreamReader.h"
