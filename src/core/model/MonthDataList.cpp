@@ -2,9 +2,6 @@
 
 #include "model/LedgerController.h"
 #include "model/Notifications.h"
-#include "storage/TypedStreamDecoder.h"
-#include "storage/TypedStreamObject.h"
-#include "storage/TypedStreamWriter.h"
 
 #include <QSet>
 
@@ -105,61 +102,4 @@ void MonthDataList::setIsEdited(bool edited)
 void MonthDataList::setReadOnly(bool readOnly)
 {
     m_isReadOnly = readOnly;
-}
-
-const TypedStreamClassChain &MonthDataList::classChain()
-{
-    static const TypedStreamClassChain chain{
-        {"MonthDataList", 2}, {"DataList", 1}, {"NSObject", 0}};
-    return chain;
-}
-
-void MonthDataList::encodeWithCoder(TypedStreamWriter &writer) const
-{
-    writer.encodeInt(m_year);
-    writer.encodeInt(m_month);
-    const PaymentArray &records = m_dataListArray;
-    writer.encodeArray(&m_dataListArray, TypedStreamWriter::ArrayClass::NSMutableArray,
-                       records.size(), [&records](TypedStreamWriter &w, qsizetype i) {
-                           const PaymentData &record = *records.at(i);
-                           w.encodeObject(&record, PaymentData::classChain(),
-                                          [&record](TypedStreamWriter &rw) {
-                                              record.encodeWithCoder(rw);
-                                          });
-                       });
-    writer.encodeString(m_summary);
-}
-
-std::shared_ptr<MonthDataList> MonthDataList::initWithCoder(TypedStreamDecoder &decoder)
-{
-    const int year = decoder.decodeInt();
-    const int month = decoder.decodeInt();
-    const QList<const TypedStreamObject *> elements = decoder.decodeArray();
-    PaymentArray records;
-    records.reserve(elements.size());
-    for (const TypedStreamObject *element : elements) {
-        if (!element->inherits("PaymentData")) {
-            decoder.finish(); // keeps the first error, if any
-            return nullptr;
-        }
-        TypedStreamDecoder recordDecoder = decoder.decoderFor(element);
-        PaymentDataPtr record = PaymentData::initWithCoder(recordDecoder);
-        if (!record)
-            return nullptr;
-        records.append(std::move(record));
-    }
-    QString summary;
-    // Version 1 lists end after the records.
-    if (decoder.versionForClassName("MonthDataList").value_or(2) >= 2 && !decoder.atEnd())
-        summary = decoder.decodeString();
-    if (!decoder.finish())
-        return nullptr;
-
-    auto list = std::make_shared<MonthDataList>(year, month);
-    list->m_dataListArray = std::move(records);
-    list->m_summary = summary;
-    sortList(list->m_dataListArray, u"Date");
-    list->calcSumOfData();
-    list->extractAll();
-    return list;
 }

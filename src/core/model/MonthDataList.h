@@ -1,10 +1,6 @@
 #pragma once
 
 #include "model/DataList.h"
-#include "storage/TypedStreamClass.h"
-
-class TypedStreamDecoder;
-class TypedStreamWriter;
 
 // The records of one calendar month: the unit that is stored in one file,
 // edited, and watched by the windows. Kept sorted by day (then category,
@@ -46,15 +42,6 @@ public:
 
     bool isEdited() const override { return m_isEdited; }
     void setIsEdited(bool edited);
-
-    // The archive form of a month file: year and month as "i", the records as
-    // an array object, the memo as a string object (absent in version 1).
-    static const TypedStreamClassChain &classChain();
-    void encodeWithCoder(TypedStreamWriter &writer) const;
-    // The list an archive holds, sorted and summed, clean; records of another
-    // month are still in it (the month store moves them once the list is
-    // cached). Null when the values do not fit; the decoder holds the reason.
-    static std::shared_ptr<MonthDataList> initWithCoder(TypedStreamDecoder &decoder);
 
     // A month whose file could not be read: shown empty, never written, so
     // the file is left for the user to mend.

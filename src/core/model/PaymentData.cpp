@@ -5,8 +5,6 @@
 #include "model/LedgerController.h"
 #include "model/NumberValue.h"
 #include "search/StringUtility.h"
-#include "storage/TypedStreamDecoder.h"
-#include "storage/TypedStreamWriter.h"
 
 #include <QDate>
 
@@ -254,39 +252,6 @@ bool PaymentData::isRequestedData(const ExtractKeyDict &keys) const
     if (keys.payway && !keys.payway->contains(m_payway))
         return false;
     return true;
-}
-
-const TypedStreamClassChain &PaymentData::classChain()
-{
-    static const TypedStreamClassChain chain{{"PaymentData", 2}, {"NSObject", 0}};
-    return chain;
-}
-
-void PaymentData::encodeWithCoder(TypedStreamWriter &writer) const
-{
-    writer.encodeInt(m_year);
-    writer.encodeInt(m_month);
-    writer.encodeInt(m_date);
-    writer.encodeInt(m_category);
-    writer.encodeString(m_details);
-    writer.encodeFloat(m_amount);
-    writer.encodeInt(m_payway);
-}
-
-PaymentDataPtr PaymentData::initWithCoder(TypedStreamDecoder &decoder)
-{
-    const int year = decoder.decodeInt();
-    const int month = decoder.decodeInt();
-    const int date = decoder.decodeInt();
-    const int category = decoder.decodeInt();
-    const QString details = decoder.decodeString();
-    // Version 1 stored whole amounts.
-    const bool wholeAmount = decoder.versionForClassName("PaymentData").value_or(2) < 2;
-    const float amount = wholeAmount ? float(decoder.decodeLong()) : decoder.decodeFloat();
-    const int payway = decoder.decodeInt();
-    if (!decoder.finish())
-        return nullptr;
-    return std::make_shared<PaymentData>(year, month, date, category, details, amount, payway);
 }
 
 QString PaymentData::description() const

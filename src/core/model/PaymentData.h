@@ -7,12 +7,8 @@
 
 #include <memory>
 
-#include "storage/TypedStreamClass.h"
-
 class DataList;
 class PaymentData;
-class TypedStreamDecoder;
-class TypedStreamWriter;
 struct ExtractKeyDict;
 
 // Records are shared: the month list of a record's own year and month is its
@@ -92,14 +88,6 @@ public:
 
     // Does this record meet every key present?
     bool isRequestedData(const ExtractKeyDict &keys) const;
-
-    // The archive form, as the month files hold it: year, month, day and
-    // category as "i", details as a string object, amount as "f" (as "l" in
-    // version 1 archives), payway as "i".
-    static const TypedStreamClassChain &classChain();
-    void encodeWithCoder(TypedStreamWriter &writer) const;
-    // Null when the values do not fit; the decoder then holds the reason.
-    static PaymentDataPtr initWithCoder(TypedStreamDecoder &decoder);
 
     QString description() const;
     // One tab-separated line: date, category name, details, whole amount
