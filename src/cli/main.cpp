@@ -23,8 +23,12 @@ QString descriptionOf(const QList<Command> &commands)
 {
     QString text = tr("Looks into and works with Penwick account books.") + u"\n\n"_s
                    + tr("Commands:") + u'\n';
+    qsizetype width = 0;
     for (const Command &command : commands)
-        text += u"  %1%2\n"_s.arg(command.name.leftJustified(10), command.summary);
+        width = std::max(width, command.name.size());
+    // The summaries in one column, two spaces clear of the longest name.
+    for (const Command &command : commands)
+        text += u"  %1  %2\n"_s.arg(command.name.leftJustified(width), command.summary);
     return text + u'\n' + tr("Run '%1 COMMAND --help' for the usage of a command.")
                               .arg(QCoreApplication::applicationName());
 }
