@@ -329,7 +329,31 @@
         </message>
         <message>
             <source>Some entries were not booked and are still here.</source>
-            <translation>記入されなかった項目があり、そのまま残しています。</translation>
+            <translation>記帳されなかった項目があり、そのまま残しています。</translation>
+        </message>
+        <message>
+            <source>The amount in row %1 cannot be booked.</source>
+            <translation>%1 行目の金額は記帳できません。</translation>
+        </message>
+        <message>
+            <source>Book into the year %1?</source>
+            <translation>%1 年に記帳しますか？</translation>
+        </message>
+        <message>
+            <source>Book into the years %1?</source>
+            <translation>%1 年に記帳しますか？</translation>
+        </message>
+        <message>
+            <source>That is more than a year away from today.</source>
+            <translation>今日から1年以上離れた年です。</translation>
+        </message>
+        <message>
+            <source>Book</source>
+            <translation>記帳</translation>
+        </message>
+        <message>
+            <source>Change the Year</source>
+            <translation>年を直す</translation>
         </message>
     </context>
     <context>
@@ -480,7 +504,7 @@ They are in %2. Bring them back into the data folder now?</source>
 The file "%2" is left exactly as it is, and nothing can be booked until it is mended or replaced.</source>
             <translation>%1
 
-ファイル「%2」はそのまま残しています。修復または置き換えるまで記入できません。</translation>
+ファイル「%2」はそのまま残しています。修復または置き換えるまで記帳できません。</translation>
         </message>
         <message>
             <source>%1
@@ -539,7 +563,7 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         </message>
         <message>
             <source>Nothing can be booked until the list file is mended. %1</source>
-            <translation>リストのファイルを修復するまで記入できません。%1</translation>
+            <translation>リストのファイルを修復するまで記帳できません。%1</translation>
         </message>
         <message>
             <source>There is no month %1 in year %2.</source>
@@ -729,11 +753,11 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         </message>
         <message>
             <source>%1 %2, closing on day %3</source>
-            <translation>%1年%2月 (%3日締め)</translation>
+            <translation>%2年%1 (%3日締め)</translation>
         </message>
         <message>
             <source>%1 %2</source>
-            <translation>%1年%2月</translation>
+            <translation>%2年%1</translation>
         </message>
         <message>
             <source>%1 – Entries</source>
@@ -1279,6 +1303,18 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <source>The day %1 is not within 1 to %2 of %3/%4.</source>
             <translation>%1 日は %4 年 %3 月の 1 〜 %2 日の範囲外です。</translation>
         </message>
+        <message>
+            <source>The amount is not a number.</source>
+            <translation>金額が数値ではありません。</translation>
+        </message>
+        <message>
+            <source>The amount is infinite, as after a division by zero.</source>
+            <translation>金額が無限大です（0で割った結果など）。</translation>
+        </message>
+        <message>
+            <source>The amount %1 is larger than an entry can hold.</source>
+            <translation>金額 %1 は記録できる範囲を超えています。</translation>
+        </message>
     </context>
     <context>
         <name>ListFile</name>
@@ -1338,11 +1374,11 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <name>ScriptCommands</name>
         <message>
             <source>The entry could not be booked: the file of its month cannot be read.</source>
-            <translation>記入できませんでした: その月のファイルを読み込めません。</translation>
+            <translation>記帳できませんでした: その月のファイルを読み込めません。</translation>
         </message>
         <message>
             <source>The entry was not booked: %1</source>
-            <translation>記入されませんでした: %1</translation>
+            <translation>記帳されませんでした: %1</translation>
         </message>
         <message>
             <source>There is no month %1.</source>
