@@ -332,6 +332,30 @@
             <source>Some entries were not booked and are still here.</source>
             <translation>Some entries were not booked and are still here.</translation>
         </message>
+        <message>
+            <source>The amount in row %1 cannot be booked.</source>
+            <translation>The amount in row %1 cannot be booked.</translation>
+        </message>
+        <message>
+            <source>Book into the year %1?</source>
+            <translation>Book into the year %1?</translation>
+        </message>
+        <message>
+            <source>Book into the years %1?</source>
+            <translation>Book into the years %1?</translation>
+        </message>
+        <message>
+            <source>That is more than a year away from today.</source>
+            <translation>That is more than a year away from today.</translation>
+        </message>
+        <message>
+            <source>Book</source>
+            <translation>Book</translation>
+        </message>
+        <message>
+            <source>Change the Year</source>
+            <translation>Change the Year</translation>
+        </message>
     </context>
     <context>
         <name>KAppController</name>
@@ -1280,6 +1304,18 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>The day %1 is not within 1 to %2 of %3/%4.</source>
             <translation>The day %1 is not within 1 to %2 of %3/%4.</translation>
+        </message>
+        <message>
+            <source>The amount is not a number.</source>
+            <translation>The amount is not a number.</translation>
+        </message>
+        <message>
+            <source>The amount is infinite, as after a division by zero.</source>
+            <translation>The amount is infinite, as after a division by zero.</translation>
+        </message>
+        <message>
+            <source>The amount %1 is larger than an entry can hold.</source>
+            <translation>The amount %1 is larger than an entry can hold.</translation>
         </message>
     </context>
     <context>

@@ -35,6 +35,9 @@ constexpr int EatingOut = 2;
 constexpr int Income = 14; // the last item
 constexpr int CreditCard = 2;
 
+// The window books into this year without asking.
+const int Year = QDate::currentDate().year();
+
 // Finds a button of an open sheet by its text.
 QPushButton *sheetButton(QMessageBox *sheet, const QString &text)
 {
@@ -66,6 +69,10 @@ private slots:
     void rememberedDescriptionFillsTheRow();
     void monthThatCannotBeWrittenKeepsItsRows();
     void popUpsFollowChangedLists();
+    void amountFieldShowsWhatIsStored_data();
+    void amountFieldShowsWhatIsStored();
+    void amountThatCannotBeBookedHoldsTheRow();
+    void farYearIsAskedFirst();
 
 private:
     template <typename T>
@@ -107,7 +114,7 @@ void TestInputWindow::init()
     m_controller = std::make_unique<KController>();
     m_controller->readListPreference();
     m_window = std::make_unique<InputWinController>(m_controller.get());
-    m_window->setYear(2006, 5, 31);
+    m_window->setYear(Year, 5, 31);
     showWindow();
 }
 
@@ -257,19 +264,19 @@ void TestInputWindow::keyboardAloneBooksRowsOfTwoMonths()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     QVERIFY(!m_window->isVisible());
     QCOMPARE(listRequests.count(), 0);
-    QVERIFY(QFile::exists(monthFile(2006, 5)));
-    QVERIFY(QFile::exists(monthFile(2006, 6)));
+    QVERIFY(QFile::exists(monthFile(Year, 5)));
+    QVERIFY(QFile::exists(monthFile(Year, 6)));
 
     // What a fresh start reads back from the files.
     m_controller->releaseAllDataWithSave(false);
-    const auto may = m_controller->monthListForYear(2006, 5)->dataListArray();
+    const auto may = m_controller->monthListForYear(Year, 5)->dataListArray();
     QCOMPARE(may.size(), 1);
     QCOMPARE(may.first()->date(), 31);
     QCOMPARE(may.first()->category(), Groceries - 1);
     QCOMPARE(may.first()->details(), u"Market"_s);
     QCOMPARE(may.first()->amount(), 1550.0f);
     QCOMPARE(may.first()->payway(), CreditCard);
-    const auto june = m_controller->monthListForYear(2006, 6)->dataListArray();
+    const auto june = m_controller->monthListForYear(Year, 6)->dataListArray();
     QCOMPARE(june.size(), 1);
     QCOMPARE(june.first()->date(), 2);
     QCOMPARE(june.first()->details(), u"Lunch"_s);
@@ -304,7 +311,7 @@ void TestInputWindow::rowWithoutCategoryRaisesTheSheet()
     // "Select" leaves everything as it was, ready to choose the category.
     sheetButton(categorySheet, u"Select"_s)->click();
     QVERIFY(m_window->isVisible());
-    QVERIFY(!QFile::exists(monthFile(2006, 5)));
+    QVERIFY(!QFile::exists(monthFile(Year, 5)));
     QCOMPARE(description(1)->currentText(), u"Mystery"_s);
     QCOMPARE(QApplication::focusWidget(), category(1));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -314,7 +321,7 @@ void TestInputWindow::rowWithoutCategoryRaisesTheSheet()
     m_window->inputData();
     sheetButton(sheet(u"categorySheet"_s), u"Input"_s)->click();
     QVERIFY(!m_window->isVisible());
-    const auto may = m_controller->monthListForYear(2006, 5)->dataListArray();
+    const auto may = m_controller->monthListForYear(Year, 5)->dataListArray();
     QCOMPARE(may.size(), 1);
     QCOMPARE(may.first()->amount(), 300.0f);
     DescriptionMemory memory;
@@ -349,7 +356,7 @@ void TestInputWindow::quitGuard()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCOMPARE(quits.count(), 1);
     QVERIFY(m_window->canTerminateApp());
-    QVERIFY(!QFile::exists(monthFile(2006, 5)));
+    QVERIFY(!QFile::exists(monthFile(Year, 5)));
 
     // Book, then quit.
     showWindow();
@@ -358,7 +365,7 @@ void TestInputWindow::quitGuard()
     m_window->confirmInputDataBeforeTerminate();
     sheetButton(sheet(u"quitSheet"_s), u"Input and Quit"_s)->click();
     QCOMPARE(quits.count(), 2);
-    QVERIFY(QFile::exists(monthFile(2006, 5)));
+    QVERIFY(QFile::exists(monthFile(Year, 5)));
     QVERIFY(m_window->canTerminateApp());
 }
 
@@ -372,7 +379,7 @@ void TestInputWindow::returnKeyFollowsTheSetting()
     QTest::keyClicks(amount(1), u"100"_s);
     QTest::keyClick(amount(1), Qt::Key_Return);
     QCOMPARE(listRequests.count(), 1);
-    QVERIFY(QFile::exists(monthFile(2006, 5)));
+    QVERIFY(QFile::exists(monthFile(Year, 5)));
 
     // 3: Return books nothing.
     Settings().setReturnInputDefault(3);
@@ -383,14 +390,19 @@ void TestInputWindow::returnKeyFollowsTheSetting()
     QTest::keyClicks(amount(1), u"100"_s);
     QTest::keyClick(amount(1), Qt::Key_Return);
     QVERIFY(m_window->isVisible());
-    QCOMPARE(m_controller->monthListForYear(2006, 5)->dataListArray().size(), 1);
+    QCOMPARE(m_controller->monthListForYear(Year, 5)->dataListArray().size(), 1);
+    // A focused button still answers Return.
+    auto *book = m_window->findChild<QWidget *>(u"inputButton"_s);
+    book->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(book, Qt::Key_Return);
+    QCOMPARE(m_controller->monthListForYear(Year, 5)->dataListArray().size(), 2);
 }
 
 void TestInputWindow::steppingTheDateMovesOnlyEmptyRows()
 {
     category(1)->setCurrentIndex(Groceries);
     m_window->incrementDate();
-    QCOMPARE(m_window->inputDate(), QDate(2006, 6, 1));
+    QCOMPARE(m_window->inputDate(), QDate(Year, 6, 1));
     QCOMPARE(control<QLineEdit>(1, InputRow::Month)->text(), u"5"_s);
     QCOMPARE(control<QLineEdit>(1, InputRow::Day)->text(), u"31"_s);
     QCOMPARE(control<QLineEdit>(2, InputRow::Month)->text(), u"6"_s);
@@ -398,17 +410,17 @@ void TestInputWindow::steppingTheDateMovesOnlyEmptyRows()
 
     // A date typed on top applies to every row and rolls over.
     typeInto(m_window->findChild<QLineEdit *>(u"dateTF"_s), u"32"_s);
-    QCOMPARE(m_window->inputDate(), QDate(2006, 7, 2));
+    QCOMPARE(m_window->inputDate(), QDate(Year, 7, 2));
     QCOMPARE(control<QLineEdit>(1, InputRow::Month)->text(), u"7"_s);
 
     // Rows keep their own year across New Year.
-    m_window->setYear(2006, 12, 31);
+    m_window->setYear(Year, 12, 31);
     typeInto(amount(1), u"40"_s);
     m_window->incrementDate();
-    QCOMPARE(m_window->inputDate(), QDate(2007, 1, 1));
+    QCOMPARE(m_window->inputDate(), QDate(Year + 1, 1, 1));
     m_window->inputData();
-    QVERIFY(QFile::exists(monthFile(2006, 12)));
-    QVERIFY(!QFile::exists(monthFile(2007, 12)));
+    QVERIFY(QFile::exists(monthFile(Year, 12)));
+    QVERIFY(!QFile::exists(monthFile(Year + 1, 12)));
 }
 
 void TestInputWindow::rememberedDescriptionFillsTheRow()
@@ -428,11 +440,12 @@ void TestInputWindow::rememberedDescriptionFillsTheRow()
     QCOMPARE(amount(2)->text(), u"800"_s);
     QCOMPARE(sum(), u"800"_s);
 
-    // Typed out in full, it fills an empty row too, but never replaces an
-    // amount the user typed.
+    // Typed out in full, it never replaces a category or amount the user
+    // chose.
+    category(3)->setCurrentIndex(Groceries);
     typeInto(amount(3), u"950"_s);
     typeInto(description(3), u"Lunch"_s);
-    QCOMPARE(category(3)->currentIndex(), EatingOut);
+    QCOMPARE(category(3)->currentIndex(), Groceries);
     QCOMPARE(amount(3)->text(), u"950"_s);
 
     // The start of a remembered description stays what was typed.
@@ -446,7 +459,7 @@ void TestInputWindow::rememberedDescriptionFillsTheRow()
 void TestInputWindow::monthThatCannotBeWrittenKeepsItsRows()
 {
     // May's file is damaged: its month is read-only and takes nothing.
-    QFile damaged(monthFile(2006, 5));
+    QFile damaged(monthFile(Year, 5));
     QVERIFY(damaged.open(QIODevice::WriteOnly));
     damaged.write("not a month");
     damaged.close();
@@ -463,14 +476,14 @@ void TestInputWindow::monthThatCannotBeWrittenKeepsItsRows()
     const auto *why = m_window->findChild<QMessageBox *>(u"notBookedSheet"_s);
     QVERIFY(why);
     QVERIFY2(why->informativeText().contains(u"could not be read"_s), qPrintable(why->informativeText()));
-    QCOMPARE(m_controller->monthListForYear(2006, 6)->dataListArray().size(), 1);
+    QCOMPARE(m_controller->monthListForYear(Year, 6)->dataListArray().size(), 1);
     // The window stays open with May's row as it was; June's row is gone.
     QVERIFY(m_window->isVisible());
     QCOMPARE(description(1)->currentText(), u"Market"_s);
     QCOMPARE(amount(1)->text(), u"1200"_s);
     QCOMPARE(amount(2)->text(), QString());
     QCOMPARE(sum(), QLocale().toString(1200));
-    QCOMPARE(readBytes(monthFile(2006, 5)), QByteArray("not a month"));
+    QCOMPARE(readBytes(monthFile(Year, 5)), QByteArray("not a month"));
 }
 
 void TestInputWindow::popUpsFollowChangedLists()
@@ -497,3 +510,81 @@ void TestInputWindow::popUpsFollowChangedLists()
 QTEST_MAIN(TestInputWindow)
 #include "tst_inputwindow.moc"
 
+
+void TestInputWindow::amountFieldShowsWhatIsStored_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<bool>("bookable");
+    // Not exact in binary, yet shown as typed.
+    QTest::newRow("19.99") << u"19.99"_s << u"19.99"_s << true;
+    QTest::newRow("0.1") << u"0.1"_s << u"0.1"_s << true;
+    QTest::newRow("12.3") << u"12.3"_s << u"12.3"_s << true;
+    QTest::newRow("1234.56") << u"1234.56"_s << u"1234.56"_s << true;
+    QTest::newRow("sum of tenths") << u"0.1+0.2"_s << u"0.3"_s << true;
+    // What the entry keeps where it cannot keep what was typed.
+    QTest::newRow("stored rounded") << u"99999999"_s << u"100000000"_s << true;
+    QTest::newRow("no minus zero") << u"-0"_s << u"0"_s << true;
+    // Left as typed, to be mended.
+    QTest::newRow("division by zero") << u"1/0"_s << u"1/0"_s << false;
+    QTest::newRow("zero by zero") << u"0/0"_s << u"0/0"_s << false;
+    QTest::newRow("beyond a float") << u"999999999999999999999*999999999999999999"_s
+                                    << u"999999999999999999999*999999999999999999"_s << false;
+}
+
+void TestInputWindow::amountFieldShowsWhatIsStored()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, shown);
+    QFETCH(bool, bookable);
+    category(1)->setCurrentIndex(Groceries);
+    typeInto(amount(1), typed);
+    QCOMPARE(amount(1)->text(), shown);
+    QCOMPARE(amount(1)->styleSheet().isEmpty(), bookable);
+    QCOMPARE(sum(), bookable ? QLocale().toString(shown.toDouble(), 'f', shown.contains(u'.') ? 2 : 0)
+                             : u"0"_s);
+}
+
+void TestInputWindow::amountThatCannotBeBookedHoldsTheRow()
+{
+    category(1)->setCurrentIndex(Groceries);
+    typeInto(amount(1), u"1/0"_s);
+    QVERIFY(amount(1)->toolTip().contains(u"division by zero"_s));
+    category(2)->setCurrentIndex(Groceries);
+    typeInto(amount(2), u"300"_s);
+
+    // Nothing is booked until the amount is mended, and the sheet leads there.
+    m_window->inputData();
+    QMessageBox *amountSheet = sheet(u"amountSheet"_s);
+    QVERIFY(amountSheet && amountSheet->isVisible());
+    QCOMPARE(amountSheet->text(), u"The amount in row 1 cannot be booked."_s);
+    amountSheet->button(QMessageBox::Ok)->click();
+    QCOMPARE(QApplication::focusWidget(), amount(1));
+    QVERIFY(!QFile::exists(monthFile(Year, 5)));
+
+    typeInto(amount(1), u"1/4"_s);
+    QVERIFY(amount(1)->styleSheet().isEmpty());
+    m_window->inputData();
+    QVERIFY(!m_window->isVisible());
+    QCOMPARE(m_controller->monthListForYear(Year, 5)->dataListArray().size(), 2);
+}
+
+void TestInputWindow::farYearIsAskedFirst()
+{
+    // A year typed short books into the year 25 only when the user says so.
+    m_window->setYear(25, 3, 14);
+    category(1)->setCurrentIndex(Groceries);
+    typeInto(amount(1), u"12"_s);
+    m_window->inputData();
+    QMessageBox *yearSheet = sheet(u"yearSheet"_s);
+    QVERIFY(yearSheet && yearSheet->isVisible());
+    QCOMPARE(yearSheet->text(), u"Book into the year 25?"_s);
+    sheetButton(yearSheet, u"Change the Year"_s)->click();
+    QCOMPARE(QApplication::focusWidget()->objectName(), u"yearTF"_s);
+    QVERIFY(!QFile::exists(monthFile(25, 3)));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    m_window->inputData();
+    sheetButton(sheet(u"yearSheet"_s), u"Book"_s)->click();
+    QVERIFY(QFile::exists(monthFile(25, 3)));
+}

@@ -89,9 +89,8 @@ std::optional<QString> newEntryProblem(const QVariantMap &fields, int categoryCo
         const auto amount = numberOf(fields.value(u"amount"_s));
         if (!amount)
             return tr("The amount \"%1\" is not a number.").arg(fields.value(u"amount"_s).toString());
-        if (!EntryLimits::isAmountStorable(*amount))
-            return tr("The amount %1 is not a finite number an entry can hold.")
-                .arg(QString::number(*amount));
+        if (auto problem = amountProblem(*amount))
+            return problem;
     }
     if (const QVariant details = fields.value(u"details"_s);
         details.isValid() && !details.canConvert<QString>())
@@ -111,6 +110,17 @@ std::optional<QString> dateProblem(int year, int month, int day)
     const int days = QDate(year, month, 1).daysInMonth();
     if (day < 1 || day > days)
         return tr("The day %1 is not within 1 to %2 of %3/%4.").arg(day).arg(days).arg(month).arg(year);
+    return std::nullopt;
+}
+
+std::optional<QString> amountProblem(double amount)
+{
+    if (std::isnan(amount))
+        return tr("The amount is not a number.");
+    if (std::isinf(amount))
+        return tr("The amount is infinite, as after a division by zero.");
+    if (!EntryLimits::isAmountStorable(amount))
+        return tr("The amount %1 is larger than an entry can hold.").arg(QString::number(amount));
     return std::nullopt;
 }
 

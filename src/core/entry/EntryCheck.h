@@ -31,6 +31,10 @@ std::optional<QString> newEntryProblem(const QVariantMap &fields, int categoryCo
 // what the record would otherwise bring within bounds.
 std::optional<QString> dateProblem(int year, int month, int day);
 
+// Why an amount cannot be booked: not a number, infinite (as after a
+// division by zero) or beyond what an entry holds; nothing when it can.
+std::optional<QString> amountProblem(double amount);
+
 // The amount an entry stores for the one typed, when it differs from it
 // (99999999 is stored as 100000000).
 std::optional<float> changedWhenStored(double typed);

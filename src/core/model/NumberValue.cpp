@@ -138,6 +138,11 @@ QString shortestText(float value)
     return QString::fromLatin1(buffer.data(), result.ptr - buffer.data());
 }
 
+QString editingText(float amount)
+{
+    return amount == 0 ? QStringLiteral("0") : shortestText(amount);
+}
+
 double shortestDouble(float value)
 {
     if (!std::isfinite(value))

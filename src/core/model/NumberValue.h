@@ -25,6 +25,8 @@ double doubleValueOf(QStringView text);
 QString shortestText(float value);
 // That text's value as a double, for where amounts leave as numbers.
 double shortestDouble(float value);
+// An amount as a person edits it: the shortest text, with no "-0".
+QString editingText(float amount);
 
 // An amount or total as the windows show it, in the user's locale: cents
 // when there are any, a whole number bare ("1,234.50", "1,200").

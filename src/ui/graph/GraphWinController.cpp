@@ -9,6 +9,7 @@
 #include "graph/MonthStepping.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
+#include "model/EntryLimits.h"
 #include "model/Notifications.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
@@ -174,7 +175,7 @@ QWidget *GraphWinController::buildToolRow()
         spin->setAlignment(Qt::AlignRight);
         return spin;
     };
-    m_yearTF = field(QStringLiteral("yearTF"), 1, 9999);
+    m_yearTF = field(QStringLiteral("yearTF"), EntryLimits::FirstYear, EntryLimits::LastYear);
     m_monthTF = field(QStringLiteral("monthTF"), 1, 12);
     // Arrow keys and the wheel step at once; a typed number counts on Return
     // or when the field is left, not at every digit.
@@ -231,7 +232,10 @@ void GraphWinController::changeDataList()
 
 void GraphWinController::moveMonth(int step)
 {
-    m_stepperValue = MonthStepping::normalized(m_stepperValue + step);
+    const int value = MonthStepping::normalized(m_stepperValue + step);
+    if (!EntryLimits::isYearInRange(value / 100))
+        return;
+    m_stepperValue = value;
     showMonthInFields(m_stepperValue);
     reloadDataList();
 }

@@ -18,6 +18,11 @@ namespace {
 
 const char TagProperty[] = "tag";
 
+QString amountHint()
+{
+    return InputRow::tr("An amount, or a sum such as 1,200+350 or 3*450.");
+}
+
 // The width a framed line edit needs to show the text.
 int lineEditWidth(const QWidget *reference, const QString &text)
 {
@@ -117,7 +122,7 @@ InputRow::InputRow(int row, QAbstractItemModel *descriptions, QWidget *parent)
 
     QLineEdit *amount = numberField(this, widths.amount);
     amount->setAccessibleName(tr("Amount, row %1").arg(row));
-    amount->setToolTip(tr("An amount, or a sum such as 1,200+350 or 3*450."));
+    amount->setToolTip(amountHint());
     tag(amount, row, Amount);
 
     auto *payway = new LastPopUpButton(this);
@@ -140,6 +145,21 @@ void InputRow::setPopUpWidths(int category, int payway)
 {
     controlWithTag(tagFor(m_row, Category))->setFixedWidth(category);
     controlWithTag(tagFor(m_row, Payway))->setFixedWidth(payway);
+}
+
+void InputRow::setAmountProblem(const std::optional<QString> &problem)
+{
+    if (problem == m_amountProblem)
+        return;
+    m_amountProblem = problem;
+    auto *amount = controlWithTag(tagFor(m_row, Amount));
+    // A red frame the eye finds among the rows; the reason is in the tool
+    // tip and, for a screen reader, in the field's description.
+    amount->setStyleSheet(problem ? QStringLiteral("QLineEdit { border: 2px solid #d0312d; "
+                                                   "border-radius: 3px; padding: 0 1px; }")
+                                  : QString());
+    amount->setToolTip(problem ? *problem : amountHint());
+    amount->setAccessibleDescription(problem ? *problem : QString());
 }
 
 int InputRow::tagOf(const QObject *control)

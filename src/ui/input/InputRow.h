@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class QAbstractItemModel;
 
 // One row of the input window: the month and day of an entry, its category,
@@ -41,6 +43,10 @@ public:
     static int tagOf(const QObject *control);
     QWidget *controlWithTag(int tag) const;
     void setPopUpWidths(int category, int payway);
+    // Marks the amount field as one that cannot be booked, saying why in its
+    // tool tip; no problem clears the mark.
+    void setAmountProblem(const std::optional<QString> &problem);
+    const std::optional<QString> &amountProblem() const { return m_amountProblem; }
 
     // The year of the row's date (its fields show only month and day), so
     // that rows keep their own year when the window's date moves on.
@@ -56,4 +62,5 @@ public:
 private:
     int m_row;
     int m_year = 0;
+    std::optional<QString> m_amountProblem;
 };

@@ -1,9 +1,11 @@
 #include "input/InputWinController.h"
 
+#include "entry/EntryCheck.h"
 #include "entry/NumberUtility.h"
 #include "input/DescriptionListModel.h"
 #include "input/InputRow.h"
 #include "ledger/KController.h"
+#include "model/EntryLimits.h"
 #include "model/Notifications.h"
 #include "model/NumberValue.h"
 #include "model/PaymentData.h"
@@ -29,25 +31,20 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace {
 
 constexpr int FixedRows = 3;
 
-// A value written back into an amount field. It must evaluate to itself
-// again, since every new total evaluates all fields: plain decimals, no
-// exponent, no digit grouping.
+// A value written back into an amount field: the amount as it will be
+// stored, in a form that evaluates to itself again when the next total
+// evaluates every field (plain decimals, no exponent, no grouping).
 QString amountFieldText(double value)
 {
-    if (!std::isfinite(value))
-        return QString::number(value);
-    QString text = QString::number(value, 'f', 6);
-    while (text.endsWith(u'0'))
-        text.chop(1);
-    if (text.endsWith(u'.'))
-        text.chop(1);
-    return text == u"-0" ? QStringLiteral("0") : text;
+    return editingText(float(value));
 }
 
 // The first item of every category pop-up, which stands for "no category".
@@ -335,6 +332,12 @@ void InputWinController::submit(int afterInputWork)
     // Statements still being typed are booked by their value.
     calcurateSum();
     for (InputRow *row : std::as_const(m_rows)) {
+        if (row->amountProblem()) {
+            showAmountSheet(row);
+            return;
+        }
+    }
+    for (InputRow *row : std::as_const(m_rows)) {
         const bool noCategory = control<QComboBox>(row, InputRow::Category)->currentIndex() <= 0;
         const bool hasData = !control<QLineEdit>(row, InputRow::Amount)->text().isEmpty()
             || !control<QComboBox>(row, InputRow::Description)->currentText().isEmpty();
@@ -343,7 +346,69 @@ void InputWinController::submit(int afterInputWork)
             return;
         }
     }
-    bookInputData();
+    confirmYearsAndBook();
+}
+
+void InputWinController::showAmountSheet(InputRow *faultyRow)
+{
+    auto *sheet = new QMessageBox(QMessageBox::Warning, windowTitle(),
+                                  tr("The amount in row %1 cannot be booked.").arg(faultyRow->row()),
+                                  QMessageBox::Ok, this);
+    sheet->setObjectName(QStringLiteral("amountSheet"));
+    sheet->setInformativeText(faultyRow->amountProblem().value_or(QString()));
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowModality(Qt::WindowModal);
+    const QPointer<QLineEdit> amount = control<QLineEdit>(faultyRow, InputRow::Amount);
+    connect(sheet, &QMessageBox::finished, this, [amount] {
+        if (amount) {
+            amount->setFocus(Qt::OtherFocusReason);
+            amount->selectAll();
+        }
+    });
+    sheet->open();
+}
+
+void InputWinController::confirmYearsAndBook()
+{
+    const int thisYear = QDate::currentDate().year();
+    QList<int> farYears;
+    for (const InputRow *row : std::as_const(m_rows)) {
+        const int year = rowDate(row).year();
+        const bool booked = control<QComboBox>(row, InputRow::Category)->currentIndex() > 0;
+        if (booked && std::abs(year - thisYear) > 1 && !farYears.contains(year))
+            farYears.append(year);
+    }
+    if (farYears.isEmpty()) {
+        bookInputData();
+        return;
+    }
+
+    std::sort(farYears.begin(), farYears.end());
+    QStringList years;
+    for (int year : std::as_const(farYears))
+        years.append(QString::number(year));
+    auto *sheet = new QMessageBox(this);
+    sheet->setObjectName(QStringLiteral("yearSheet"));
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowModality(Qt::WindowModal);
+    sheet->setWindowTitle(windowTitle());
+    sheet->setIcon(QMessageBox::Question);
+    sheet->setText((years.size() == 1 ? tr("Book into the year %1?") : tr("Book into the years %1?"))
+                       .arg(QLocale().createSeparatedList(years)));
+    sheet->setInformativeText(tr("That is more than a year away from today."));
+    QPushButton *book = sheet->addButton(tr("Book"), QMessageBox::AcceptRole);
+    QPushButton *change = sheet->addButton(tr("Change the Year"), QMessageBox::RejectRole);
+    sheet->setDefaultButton(change);
+    sheet->setEscapeButton(change);
+    connect(sheet, &QMessageBox::finished, this, [this, sheet, book] {
+        if (sheet->clickedButton() == book) {
+            bookInputData();
+            return;
+        }
+        m_yearTF->setFocus(Qt::OtherFocusReason);
+        m_yearTF->selectAll();
+    });
+    sheet->open();
 }
 
 void InputWinController::showCategorySheet(InputRow *faultyRow)
@@ -365,7 +430,7 @@ void InputWinController::showCategorySheet(InputRow *faultyRow)
     const QPointer<InputRow> row = faultyRow;
     connect(sheet, &QMessageBox::finished, this, [this, sheet, input, row] {
         if (sheet->clickedButton() == input) {
-            bookInputData();
+            confirmYearsAndBook();
         } else if (row) {
             control<QComboBox>(row, InputRow::Category)->setFocus(Qt::OtherFocusReason);
         }
@@ -481,7 +546,7 @@ void InputWinController::checkDate()
         return field->text().trimmed().isEmpty() ? current : integerValueOf(QStringView(field->text()));
     };
     const QDate first(valueOf(m_yearTF, m_inputDate.year()), 1, 1);
-    if (!first.isValid()) {
+    if (!first.isValid() || !EntryLimits::isYearInRange(first.year())) {
         showTopDate(m_inputDate);
         return;
     }
@@ -638,12 +703,18 @@ void InputWinController::calcurateSum()
 {
     for (InputRow *row : std::as_const(m_rows)) {
         auto *amount = control<QLineEdit>(row, InputRow::Amount);
-        if (amount->text().isEmpty())
+        if (amount->text().isEmpty()) {
+            row->setAmountProblem(std::nullopt);
             continue;
-        const QString value =
-            amountFieldText(NumberUtility::numberWithCalcurationStatement(amount->text()));
-        if (value != amount->text())
-            amount->setText(value);
+        }
+        const double value = NumberUtility::numberWithCalcurationStatement(amount->text());
+        // What cannot be booked stays as typed, to be mended.
+        row->setAmountProblem(EntryCheck::amountProblem(value));
+        if (row->amountProblem())
+            continue;
+        const QString text = amountFieldText(value);
+        if (text != amount->text())
+            amount->setText(text);
     }
     m_sumTF->setText(amountText(spendingTotal()));
 }
@@ -659,8 +730,10 @@ double InputWinController::spendingTotal() const
         // Neither a row without category nor one of income (the last
         // category) is spending.
         const auto *category = control<QComboBox>(row, InputRow::Category);
-        if (category->currentIndex() != 0 && category->currentIndex() < category->count() - 1)
-            total += float(NumberUtility::numberWithCalcurationStatement(text));
+        const double value = NumberUtility::numberWithCalcurationStatement(text);
+        if (category->currentIndex() != 0 && category->currentIndex() < category->count() - 1
+            && EntryLimits::isAmountStorable(value))
+            total += float(value);
     }
     return total;
 }

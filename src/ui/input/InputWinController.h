@@ -112,6 +112,10 @@ private:
     void reloadDescriptions();
     void submit(int afterInputWork);
     void showCategorySheet(InputRow *faultyRow);
+    void showAmountSheet(InputRow *faultyRow);
+    // Asks before booking into a year far from today (a typo of "25"), then
+    // books.
+    void confirmYearsAndBook();
     void saveWindowGeometry();
 
     template <typename T>

@@ -1,10 +1,12 @@
 #include "list/DataListTableModel.h"
 
 #include "ledger/KController.h"
+#include "model/EntryLimits.h"
 #include "model/MonthDataList.h"
 #include "model/Notifications.h"
 #include "model/NumberValue.h"
 
+#include <QApplication>
 #include <QLocale>
 
 #include <cmath>
@@ -145,7 +147,7 @@ QVariant DataListTableModel::data(const QModelIndex &index, int role) const
         if (isPopUpColumn(column))
             return record->dataForKey(keyOfColumn(column));
         if (column == AmountColumn)
-            return QString::number(double(record->amount()), 'g', 9);
+            return editingText(record->amount());
         return record->dataForKey(keyOfColumn(column)).toString();
     case Qt::ToolTipRole:
         return column == DetailsColumn && !record->details().isEmpty() ? record->details()
@@ -232,7 +234,12 @@ bool DataListTableModel::setData(const QModelIndex &index, const QVariant &value
     case AmountColumn: {
         // "1,234.5" is read as 1234.5; an expression is not evaluated here.
         const QString text = value.toString().remove(u',');
-        record->setData(double(floatValueOf(QStringView(text))), u"Amount");
+        const double amount = doubleValueOf(QStringView(text));
+        if (!EntryLimits::isAmountStorable(amount)) {
+            QApplication::beep();
+            return false;
+        }
+        record->setData(double(float(amount)), u"Amount");
         return true;
     }
     case YearColumn:

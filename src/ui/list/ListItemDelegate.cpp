@@ -3,13 +3,19 @@
 #include "list/DataListTableModel.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QTimer>
 
 QWidget *ListItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                         const QModelIndex &index) const
 {
-    if (!DataListTableModel::isPopUpColumn(index.column()))
-        return QStyledItemDelegate::createEditor(parent, option, index);
+    if (!DataListTableModel::isPopUpColumn(index.column())) {
+        QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+        // Typed where the value stands: amounts on the right.
+        if (auto *line = qobject_cast<QLineEdit *>(editor))
+            line->setAlignment(index.data(Qt::TextAlignmentRole).value<Qt::Alignment>());
+        return editor;
+    }
     auto *popUp = new QComboBox(parent);
     popUp->setObjectName(QStringLiteral("cellPopUp"));
     popUp->addItems(index.data(DataListTableModel::ChoicesRole).toStringList());

@@ -4,6 +4,7 @@
 #include "list/DataListTableModel.h"
 #include "list/ListItemDelegate.h"
 #include "list/ListPrintout.h"
+#include "model/EntryLimits.h"
 #include "model/ModifMonthList.h"
 #include "model/MonthDataList.h"
 #include "model/Notifications.h"
@@ -43,8 +44,6 @@
 
 namespace {
 
-constexpr int kFirstYear = 1970;
-constexpr int kLastYear = 2100;
 // The table pane never gets lower than this.
 constexpr int kMinimumTableHeight = 130;
 constexpr int kSummaryDelayMs = 1000;
@@ -257,7 +256,7 @@ QWidget *ListWinController::buildMonthBar()
 
     m_yearTF = new QSpinBox(bar);
     m_yearTF->setObjectName(QStringLiteral("yearTF"));
-    m_yearTF->setRange(kFirstYear, kLastYear);
+    m_yearTF->setRange(EntryLimits::FirstYear, EntryLimits::LastYear);
     m_yearTF->setKeyboardTracking(false);
     m_yearTF->setAccessibleName(tr("Year"));
     connect(m_yearTF, &QSpinBox::valueChanged, this, &ListWinController::changeDataList);
@@ -471,14 +470,20 @@ void ListWinController::setFields(int year, int month)
 
 void ListWinController::showListOfYear(int year, int month)
 {
+    const bool shown = m_currentDataList && m_currentDataList->year() == year
+        && m_currentDataList->month() == month;
     setFields(year, month);
     changeDataList();
+    // The month shown is not read again, but the panel may have been
+    // cleared since its rows were picked.
+    if (shown)
+        extractData();
 }
 
 void ListWinController::moveMonth(int months)
 {
     const QDate target = QDate(year(), month(), 1).addMonths(months);
-    if (target.year() < kFirstYear || target.year() > kLastYear)
+    if (!EntryLimits::isYearInRange(target.year()))
         return;
     showListOfYear(target.year(), target.month());
 }
