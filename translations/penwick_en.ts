@@ -63,28 +63,8 @@
     <context>
         <name>ConversionJournal</name>
         <message>
-            <source>The folder %1 could not be written to disk: %2</source>
-            <translation>The folder %1 could not be written to disk: %2</translation>
-        </message>
-        <message>
-            <source>%1 could not be written: %2</source>
-            <translation>%1 could not be written: %2</translation>
-        </message>
-        <message>
             <source>The record of an unfinished change of the lists, %1, cannot be read.</source>
             <translation>The record of an unfinished change of the lists, %1, cannot be read.</translation>
-        </message>
-        <message>
-            <source>%1 could not be written to disk: %2</source>
-            <translation>%1 could not be written to disk: %2</translation>
-        </message>
-        <message>
-            <source>%1 could not be replaced: %2</source>
-            <translation>%1 could not be replaced: %2</translation>
-        </message>
-        <message>
-            <source>The list file %1 could not be written.</source>
-            <translation>The list file %1 could not be written.</translation>
         </message>
     </context>
     <context>
@@ -527,20 +507,12 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>The file could not be read, so it is left as it is. Changes to this month are not saved.</translation>
         </message>
         <message>
-            <source>The file of this month could not be read, so nothing can be added to it.</source>
-            <translation>The file of this month could not be read, so nothing can be added to it.</translation>
-        </message>
-        <message>
             <source>The file of this month could not be read, so no entry can be moved into it.</source>
             <translation>The file of this month could not be read, so no entry can be moved into it.</translation>
         </message>
         <message>
             <source>An earlier change of the lists has not been finished yet.</source>
             <translation>An earlier change of the lists has not been finished yet.</translation>
-        </message>
-        <message>
-            <source>The list file %1 could not be written.</source>
-            <translation>The list file %1 could not be written.</translation>
         </message>
         <message>
             <source>The entries of %1 cannot be read, so none of the stored entries has been renumbered and the lists are unchanged. Mend or remove the file %2 first.</source>
@@ -645,42 +617,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>Delete…</translation>
         </message>
         <message>
-            <source>e.g. 1,5,10-12</source>
-            <translation>e.g. 1,5,10-12</translation>
-        </message>
-        <message>
-            <source>Category</source>
-            <translation>Category</translation>
-        </message>
-        <message>
-            <source>Any of these words</source>
-            <translation>Any of these words</translation>
-        </message>
-        <message>
-            <source>From</source>
-            <translation>From</translation>
-        </message>
-        <message>
-            <source>To</source>
-            <translation>To</translation>
-        </message>
-        <message>
-            <source>Payment method</source>
-            <translation>Payment method</translation>
-        </message>
-        <message>
-            <source>&amp;Days:</source>
-            <translation>&amp;Days:</translation>
-        </message>
-        <message>
-            <source>&amp;Words:</source>
-            <translation>&amp;Words:</translation>
-        </message>
-        <message>
-            <source>&amp;Amount:</source>
-            <translation>&amp;Amount:</translation>
-        </message>
-        <message>
             <source>Clear &amp;Search</source>
             <translation>Clear &amp;Search</translation>
         </message>
@@ -691,34 +627,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>Show every entry of the month</source>
             <translation>Show every entry of the month</translation>
-        </message>
-        <message>
-            <source>This Month</source>
-            <translation>This Month</translation>
-        </message>
-        <message>
-            <source>Spending:</source>
-            <translation>Spending:</translation>
-        </message>
-        <message>
-            <source>Income:</source>
-            <translation>Income:</translation>
-        </message>
-        <message>
-            <source>Balance:</source>
-            <translation>Balance:</translation>
-        </message>
-        <message>
-            <source>Shown Entries</source>
-            <translation>Shown Entries</translation>
-        </message>
-        <message>
-            <source>Share of the month:</source>
-            <translation>Share of the month:</translation>
-        </message>
-        <message>
-            <source>Memo</source>
-            <translation>Memo</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -745,14 +653,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>&amp;View</translation>
         </message>
         <message>
-            <source>&amp;Columns</source>
-            <translation>&amp;Columns</translation>
-        </message>
-        <message>
-            <source>%1 %</source>
-            <translation>%1 %</translation>
-        </message>
-        <message>
             <source>%1 %2, closing on day %3</source>
             <translation>%1 %2, closing on day %3</translation>
         </message>
@@ -763,14 +663,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>%1 – Entries</source>
             <translation>%1 – Entries</translation>
-        </message>
-        <message>
-            <source>This month's file could not be read.</source>
-            <translation>This month's file could not be read.</translation>
-        </message>
-        <message>
-            <source>Notes on %1 %2</source>
-            <translation>Notes on %1 %2</translation>
         </message>
         <message>
             <source>Double-click a cell to change it. A changed month or year moves the entry there.</source>
@@ -796,48 +688,8 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>Delete</translation>
         </message>
         <message>
-            <source>days %1</source>
-            <translation>days %1</translation>
-        </message>
-        <message>
-            <source>words %1</source>
-            <translation>words %1</translation>
-        </message>
-        <message>
-            <source>from %1</source>
-            <translation>from %1</translation>
-        </message>
-        <message>
-            <source>up to %1</source>
-            <translation>up to %1</translation>
-        </message>
-        <message>
-            <source>Spending</source>
-            <translation>Spending</translation>
-        </message>
-        <message>
-            <source>Income</source>
-            <translation>Income</translation>
-        </message>
-        <message>
-            <source>Balance</source>
-            <translation>Balance</translation>
-        </message>
-        <message>
             <source>Entries found by: %1</source>
             <translation>Entries found by: %1</translation>
-        </message>
-        <message>
-            <source>Spending of the entries shown</source>
-            <translation>Spending of the entries shown</translation>
-        </message>
-        <message>
-            <source>Share of the month</source>
-            <translation>Share of the month</translation>
-        </message>
-        <message>
-            <source>Balance of the entries shown</source>
-            <translation>Balance of the entries shown</translation>
         </message>
         <message>
             <source>Export as PDF</source>
@@ -1138,14 +990,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>Penwick is locked: enter the password in the program first.</translation>
         </message>
         <message>
-            <source>The entry could not be booked: its month cannot be changed.</source>
-            <translation>The entry could not be booked: its month cannot be changed.</translation>
-        </message>
-        <message>
-            <source>There is no month %1.</source>
-            <translation>There is no month %1.</translation>
-        </message>
-        <message>
             <source>at index %1</source>
             <translation>at index %1</translation>
         </message>
@@ -1155,10 +999,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>Penwick is locked: enter the password in the program first.</source>
             <translation>Penwick is locked: enter the password in the program first.</translation>
-        </message>
-        <message>
-            <source>There is no month %1.</source>
-            <translation>There is no month %1.</translation>
         </message>
     </context>
     <context>
@@ -1290,10 +1130,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>The amount "%1" is not a number.</translation>
         </message>
         <message>
-            <source>The amount %1 is not a finite number an entry can hold.</source>
-            <translation>The amount %1 is not a finite number an entry can hold.</translation>
-        </message>
-        <message>
             <source>The details are not a text.</source>
             <translation>The details are not a text.</translation>
         </message>
@@ -1389,6 +1225,138 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>The entries of %1/%2 cannot be read: %3</source>
             <translation>The entries of %1/%2 cannot be read: %3</translation>
+        </message>
+    </context>
+    <context>
+        <name>ListSearchPanel</name>
+        <message>
+            <source>e.g. 1,5,10-12</source>
+            <translation>e.g. 1,5,10-12</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Any of these words</source>
+            <translation>Any of these words</translation>
+        </message>
+        <message>
+            <source>From</source>
+            <translation>From</translation>
+        </message>
+        <message>
+            <source>To</source>
+            <translation>To</translation>
+        </message>
+        <message>
+            <source>Payment method</source>
+            <translation>Payment method</translation>
+        </message>
+        <message>
+            <source>&amp;Days:</source>
+            <translation>&amp;Days:</translation>
+        </message>
+        <message>
+            <source>&amp;Words:</source>
+            <translation>&amp;Words:</translation>
+        </message>
+        <message>
+            <source>&amp;Amount:</source>
+            <translation>&amp;Amount:</translation>
+        </message>
+        <message>
+            <source>days %1</source>
+            <translation>days %1</translation>
+        </message>
+        <message>
+            <source>words %1</source>
+            <translation>words %1</translation>
+        </message>
+        <message>
+            <source>from %1</source>
+            <translation>from %1</translation>
+        </message>
+        <message>
+            <source>up to %1</source>
+            <translation>up to %1</translation>
+        </message>
+    </context>
+    <context>
+        <name>MonthMemo</name>
+        <message>
+            <source>Memo</source>
+            <translation>Memo</translation>
+        </message>
+        <message>
+            <source>This month's file could not be read.</source>
+            <translation>This month's file could not be read.</translation>
+        </message>
+        <message>
+            <source>Notes on %1 %2</source>
+            <translation>Notes on %1 %2</translation>
+        </message>
+    </context>
+    <context>
+        <name>MonthTotalsPane</name>
+        <message>
+            <source>This Month</source>
+            <translation>This Month</translation>
+        </message>
+        <message>
+            <source>Spending:</source>
+            <translation>Spending:</translation>
+        </message>
+        <message>
+            <source>Income:</source>
+            <translation>Income:</translation>
+        </message>
+        <message>
+            <source>Balance:</source>
+            <translation>Balance:</translation>
+        </message>
+        <message>
+            <source>Shown Entries</source>
+            <translation>Shown Entries</translation>
+        </message>
+        <message>
+            <source>Share of the month:</source>
+            <translation>Share of the month:</translation>
+        </message>
+        <message>
+            <source>%1 %</source>
+            <translation>%1 %</translation>
+        </message>
+        <message>
+            <source>Spending</source>
+            <translation>Spending</translation>
+        </message>
+        <message>
+            <source>Income</source>
+            <translation>Income</translation>
+        </message>
+        <message>
+            <source>Balance</source>
+            <translation>Balance</translation>
+        </message>
+        <message>
+            <source>Spending of the entries shown</source>
+            <translation>Spending of the entries shown</translation>
+        </message>
+        <message>
+            <source>Share of the month</source>
+            <translation>Share of the month</translation>
+        </message>
+        <message>
+            <source>Balance of the entries shown</source>
+            <translation>Balance of the entries shown</translation>
+        </message>
+    </context>
+    <context>
+        <name>EntryTableView</name>
+        <message>
+            <source>&amp;Columns</source>
+            <translation>&amp;Columns</translation>
         </message>
     </context>
 </TS>

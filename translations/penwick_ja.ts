@@ -62,28 +62,8 @@
     <context>
         <name>ConversionJournal</name>
         <message>
-            <source>The folder %1 could not be written to disk: %2</source>
-            <translation>フォルダ %1 をディスクに書き込めませんでした: %2</translation>
-        </message>
-        <message>
-            <source>%1 could not be written: %2</source>
-            <translation>%1 を書き込めませんでした: %2</translation>
-        </message>
-        <message>
             <source>The record of an unfinished change of the lists, %1, cannot be read.</source>
             <translation>終わっていないリスト変更の記録 %1 を読み込めません。</translation>
-        </message>
-        <message>
-            <source>%1 could not be written to disk: %2</source>
-            <translation>%1 をディスクに書き込めませんでした: %2</translation>
-        </message>
-        <message>
-            <source>%1 could not be replaced: %2</source>
-            <translation>%1 を置き換えられませんでした: %2</translation>
-        </message>
-        <message>
-            <source>The list file %1 could not be written.</source>
-            <translation>リストファイル %1 を書き込めませんでした。</translation>
         </message>
     </context>
     <context>
@@ -526,20 +506,12 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>ファイルを読み込めなかったため、そのまま残してあります。この月への変更は保存されません。</translation>
         </message>
         <message>
-            <source>The file of this month could not be read, so nothing can be added to it.</source>
-            <translation>この月のファイルを読み込めなかったため、データを追加できません。</translation>
-        </message>
-        <message>
             <source>The file of this month could not be read, so no entry can be moved into it.</source>
             <translation>この月のファイルを読み込めなかったため、データを移動できません。</translation>
         </message>
         <message>
             <source>An earlier change of the lists has not been finished yet.</source>
             <translation>前に行ったリストの変更がまだ終わっていません。</translation>
-        </message>
-        <message>
-            <source>The list file %1 could not be written.</source>
-            <translation>リストファイル %1 を書き込めませんでした。</translation>
         </message>
         <message>
             <source>The entries of %1 cannot be read, so none of the stored entries has been renumbered and the lists are unchanged. Mend or remove the file %2 first.</source>
@@ -644,42 +616,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>削除…</translation>
         </message>
         <message>
-            <source>e.g. 1,5,10-12</source>
-            <translation>例: 1,5,10-12</translation>
-        </message>
-        <message>
-            <source>Category</source>
-            <translation>分類</translation>
-        </message>
-        <message>
-            <source>Any of these words</source>
-            <translation>いずれかの語を含む</translation>
-        </message>
-        <message>
-            <source>From</source>
-            <translation>下限</translation>
-        </message>
-        <message>
-            <source>To</source>
-            <translation>上限</translation>
-        </message>
-        <message>
-            <source>Payment method</source>
-            <translation>支払い方法</translation>
-        </message>
-        <message>
-            <source>&amp;Days:</source>
-            <translation>日(&amp;D):</translation>
-        </message>
-        <message>
-            <source>&amp;Words:</source>
-            <translation>語句(&amp;W):</translation>
-        </message>
-        <message>
-            <source>&amp;Amount:</source>
-            <translation>金額(&amp;A):</translation>
-        </message>
-        <message>
             <source>Clear &amp;Search</source>
             <translation>検索を解除(&amp;S)</translation>
         </message>
@@ -690,34 +626,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>Show every entry of the month</source>
             <translation>この月のデータをすべて表示</translation>
-        </message>
-        <message>
-            <source>This Month</source>
-            <translation>今月</translation>
-        </message>
-        <message>
-            <source>Spending:</source>
-            <translation>支出:</translation>
-        </message>
-        <message>
-            <source>Income:</source>
-            <translation>収入:</translation>
-        </message>
-        <message>
-            <source>Balance:</source>
-            <translation>残高:</translation>
-        </message>
-        <message>
-            <source>Shown Entries</source>
-            <translation>表示中のデータ</translation>
-        </message>
-        <message>
-            <source>Share of the month:</source>
-            <translation>月に占める割合:</translation>
-        </message>
-        <message>
-            <source>Memo</source>
-            <translation>メモ</translation>
         </message>
         <message>
             <source>&amp;File</source>
@@ -744,14 +652,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>表示(&amp;V)</translation>
         </message>
         <message>
-            <source>&amp;Columns</source>
-            <translation>列(&amp;C)</translation>
-        </message>
-        <message>
-            <source>%1 %</source>
-            <translation>%1 %</translation>
-        </message>
-        <message>
             <source>%1 %2, closing on day %3</source>
             <translation>%2年%1 (%3日締め)</translation>
         </message>
@@ -762,14 +662,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>%1 – Entries</source>
             <translation>%1 – データ</translation>
-        </message>
-        <message>
-            <source>This month's file could not be read.</source>
-            <translation>この月のファイルを読み込めませんでした。</translation>
-        </message>
-        <message>
-            <source>Notes on %1 %2</source>
-            <translation>%1年%2月のメモ</translation>
         </message>
         <message>
             <source>Double-click a cell to change it. A changed month or year moves the entry there.</source>
@@ -794,48 +686,8 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>削除</translation>
         </message>
         <message>
-            <source>days %1</source>
-            <translation>日 %1</translation>
-        </message>
-        <message>
-            <source>words %1</source>
-            <translation>語句 %1</translation>
-        </message>
-        <message>
-            <source>from %1</source>
-            <translation>%1 以上</translation>
-        </message>
-        <message>
-            <source>up to %1</source>
-            <translation>%1 以下</translation>
-        </message>
-        <message>
-            <source>Spending</source>
-            <translation>支出</translation>
-        </message>
-        <message>
-            <source>Income</source>
-            <translation>収入</translation>
-        </message>
-        <message>
-            <source>Balance</source>
-            <translation>残高</translation>
-        </message>
-        <message>
             <source>Entries found by: %1</source>
             <translation>検索条件: %1</translation>
-        </message>
-        <message>
-            <source>Spending of the entries shown</source>
-            <translation>表示中のデータの支出</translation>
-        </message>
-        <message>
-            <source>Share of the month</source>
-            <translation>月に占める割合</translation>
-        </message>
-        <message>
-            <source>Balance of the entries shown</source>
-            <translation>表示中のデータの残高</translation>
         </message>
         <message>
             <source>Export as PDF</source>
@@ -1136,14 +988,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>Penwick はロックされています。先にプログラムでパスワードを入力してください。</translation>
         </message>
         <message>
-            <source>The entry could not be booked: its month cannot be changed.</source>
-            <translation>データを記帳できませんでした: その月は変更できません。</translation>
-        </message>
-        <message>
-            <source>There is no month %1.</source>
-            <translation>%1 という月はありません。</translation>
-        </message>
-        <message>
             <source>at index %1</source>
             <translation>インデックス %1</translation>
         </message>
@@ -1153,10 +997,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>Penwick is locked: enter the password in the program first.</source>
             <translation>Penwick はロックされています。先にプログラムでパスワードを入力してください。</translation>
-        </message>
-        <message>
-            <source>There is no month %1.</source>
-            <translation>%1 という月はありません。</translation>
         </message>
     </context>
     <context>
@@ -1288,10 +1128,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>金額「%1」は数値ではありません。</translation>
         </message>
         <message>
-            <source>The amount %1 is not a finite number an entry can hold.</source>
-            <translation>金額 %1 は記録できる有限の数値ではありません。</translation>
-        </message>
-        <message>
             <source>The details are not a text.</source>
             <translation>内容が文字列ではありません。</translation>
         </message>
@@ -1387,6 +1223,138 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>The entries of %1/%2 cannot be read: %3</source>
             <translation>%2 年 %1 月の項目を読み込めません: %3</translation>
+        </message>
+    </context>
+    <context>
+        <name>ListSearchPanel</name>
+        <message>
+            <source>e.g. 1,5,10-12</source>
+            <translation>例: 1,5,10-12</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Any of these words</source>
+            <translation>いずれかの語を含む</translation>
+        </message>
+        <message>
+            <source>From</source>
+            <translation>下限</translation>
+        </message>
+        <message>
+            <source>To</source>
+            <translation>上限</translation>
+        </message>
+        <message>
+            <source>Payment method</source>
+            <translation>支払い方法</translation>
+        </message>
+        <message>
+            <source>&amp;Days:</source>
+            <translation>日(&amp;D):</translation>
+        </message>
+        <message>
+            <source>&amp;Words:</source>
+            <translation>語句(&amp;W):</translation>
+        </message>
+        <message>
+            <source>&amp;Amount:</source>
+            <translation>金額(&amp;A):</translation>
+        </message>
+        <message>
+            <source>days %1</source>
+            <translation>日 %1</translation>
+        </message>
+        <message>
+            <source>words %1</source>
+            <translation>語句 %1</translation>
+        </message>
+        <message>
+            <source>from %1</source>
+            <translation>%1 以上</translation>
+        </message>
+        <message>
+            <source>up to %1</source>
+            <translation>%1 以下</translation>
+        </message>
+    </context>
+    <context>
+        <name>MonthMemo</name>
+        <message>
+            <source>Memo</source>
+            <translation>メモ</translation>
+        </message>
+        <message>
+            <source>This month's file could not be read.</source>
+            <translation>この月のファイルを読み込めませんでした。</translation>
+        </message>
+        <message>
+            <source>Notes on %1 %2</source>
+            <translation>%2年%1のメモ</translation>
+        </message>
+    </context>
+    <context>
+        <name>MonthTotalsPane</name>
+        <message>
+            <source>This Month</source>
+            <translation>今月</translation>
+        </message>
+        <message>
+            <source>Spending:</source>
+            <translation>支出:</translation>
+        </message>
+        <message>
+            <source>Income:</source>
+            <translation>収入:</translation>
+        </message>
+        <message>
+            <source>Balance:</source>
+            <translation>残高:</translation>
+        </message>
+        <message>
+            <source>Shown Entries</source>
+            <translation>表示中のデータ</translation>
+        </message>
+        <message>
+            <source>Share of the month:</source>
+            <translation>月に占める割合:</translation>
+        </message>
+        <message>
+            <source>%1 %</source>
+            <translation>%1 %</translation>
+        </message>
+        <message>
+            <source>Spending</source>
+            <translation>支出</translation>
+        </message>
+        <message>
+            <source>Income</source>
+            <translation>収入</translation>
+        </message>
+        <message>
+            <source>Balance</source>
+            <translation>残高</translation>
+        </message>
+        <message>
+            <source>Spending of the entries shown</source>
+            <translation>表示中のデータの支出</translation>
+        </message>
+        <message>
+            <source>Share of the month</source>
+            <translation>月に占める割合</translation>
+        </message>
+        <message>
+            <source>Balance of the entries shown</source>
+            <translation>表示中のデータの残高</translation>
+        </message>
+    </context>
+    <context>
+        <name>EntryTableView</name>
+        <message>
+            <source>&amp;Columns</source>
+            <translation>列(&amp;C)</translation>
         </message>
     </context>
 </TS>

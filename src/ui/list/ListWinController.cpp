@@ -2,17 +2,17 @@
 
 #include "ledger/KController.h"
 #include "list/DataListTableModel.h"
-#include "list/ListItemDelegate.h"
+#include "list/EntryTableView.h"
 #include "list/ListPrintout.h"
+#include "list/ListSearchPanel.h"
+#include "list/MonthMemo.h"
+#include "list/MonthTotalsPane.h"
 #include "model/EntryLimits.h"
 #include "model/ModifMonthList.h"
 #include "model/MonthDataList.h"
 #include "model/Notifications.h"
-#include "model/NumberValue.h"
-#include "search/StringUtility.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
-#include "widgets/CheckPopUpButton.h"
 #include "widgets/SavableSplitView.h"
 
 #include <QCloseEvent>
@@ -20,16 +20,12 @@
 #include <QDate>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFormLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
@@ -40,48 +36,6 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <cmath>
-
-namespace {
-
-// The table pane never gets lower than this.
-constexpr int kMinimumTableHeight = 130;
-constexpr int kSummaryDelayMs = 1000;
-
-// Amounts as the fields show them, to cents.
-double shownAmount(double amount)
-{
-    return std::round(amount * 100.0) / 100.0;
-}
-
-QLabel *amountLabel(const QString &objectName, QWidget *parent)
-{
-    auto *label = new QLabel(parent);
-    label->setObjectName(objectName);
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("-000,000,000")));
-    return label;
-}
-
-QLineEdit *searchField(const QString &objectName, const QString &placeholder, int characters,
-                       QWidget *parent)
-{
-    auto *field = new QLineEdit(parent);
-    field->setObjectName(objectName);
-    field->setPlaceholderText(placeholder);
-    field->setClearButtonEnabled(true);
-    field->setMinimumWidth(field->fontMetrics().averageCharWidth() * characters);
-    return field;
-}
-
-// "1,000" is a thousand in the amount fields too.
-int amountBound(const QLineEdit *field)
-{
-    return integerValueOf(QStringView(QString(field->text()).remove(u',')));
-}
-
-} // namespace
 
 ListWinController::ListWinController(KController *controller, QWidget *parent)
     : QMainWindow(parent)
@@ -91,11 +45,6 @@ ListWinController::ListWinController(KController *controller, QWidget *parent)
     buildWindow();
     buildMenus();
 
-    m_summaryTimer.setSingleShot(true);
-    m_summaryTimer.setInterval(kSummaryDelayMs);
-    connect(&m_summaryTimer, &QTimer::timeout, this, &ListWinController::commitSummary);
-    connect(m_controller, &KController::aboutToSaveAllEditedData, this,
-            &ListWinController::editSummary);
     m_unsavedLabel = new QLabel(this);
     m_unsavedLabel->setObjectName(QStringLiteral("unsavedLabel"));
     m_unsavedLabel->setWordWrap(true);
@@ -126,8 +75,7 @@ ListWinController::ListWinController(KController *controller, QWidget *parent)
 
     if (!restoreGeometry(settings.savedLayout(SettingsKeys::ListWindow)))
         resize(980, 680);
-    m_listTable->horizontalHeader()->restoreState(settings.savedLayout(SettingsKeys::DataListTable));
-    readColumnMenuStates();
+    m_listTable->restoreColumns();
     m_splitView->setAutosaveName(SettingsKeys::ListWindowSplitView);
 }
 
@@ -154,7 +102,7 @@ ListWinController::~ListWinController()
     // A cell being edited commits as the window hides: let that happen while
     // the window is still whole, then stop listening.
     hide();
-    commitSummary();
+    m_memo->commit();
     Notifications::instance()->disconnect(this);
     m_controller->disconnect(this);
 }
@@ -164,50 +112,26 @@ void ListWinController::buildWindow()
     auto *central = new QWidget(this);
     auto *layout = new QVBoxLayout(central);
     layout->addWidget(buildMonthBar());
-    layout->addWidget(buildSearchPanel());
+    layout->addWidget(buildSearchBar());
 
     m_model = new DataListTableModel(m_controller, this);
-    m_listTable = new QTableView(central);
-    m_listTable->setObjectName(QStringLiteral("listTable"));
-    m_listTable->setModel(m_model);
-    m_listTable->setItemDelegate(new ListItemDelegate(m_listTable));
-    m_listTable->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_listTable->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_listTable->setAlternatingRowColors(true);
-    m_listTable->setWordWrap(false);
-    m_listTable->setMinimumHeight(kMinimumTableHeight);
-    m_listTable->verticalHeader()->hide();
-    m_listTable->verticalHeader()->setDefaultSectionSize(
-        m_listTable->fontMetrics().height() + 8);
-    QHeaderView *header = m_listTable->horizontalHeader();
-    header->setSectionsMovable(true);
-    header->setSectionsClickable(true);
-    header->setHighlightSections(false);
-    header->setStretchLastSection(false);
-    header->setSectionResizeMode(DataListTableModel::DetailsColumn, QHeaderView::Stretch);
-    const int digit = m_listTable->fontMetrics().horizontalAdvance(u'0');
-    header->resizeSection(DataListTableModel::YearColumn, digit * 8);
-    header->resizeSection(DataListTableModel::MonthColumn, digit * 8);
-    header->resizeSection(DataListTableModel::DateColumn, digit * 7);
-    header->resizeSection(DataListTableModel::CategoryColumn, digit * 18);
-    header->resizeSection(DataListTableModel::AmountColumn, digit * 14);
-    header->resizeSection(DataListTableModel::PaywayColumn, digit * 18);
-    connect(header, &QHeaderView::sectionClicked, this, &ListWinController::sortByColumn);
-    header->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(header, &QWidget::customContextMenuRequested, this,
-            [this, header](const QPoint &pos) { m_tableColumnMenu->popup(header->mapToGlobal(pos)); });
-
-    connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this,
-            &ListWinController::rememberSelection);
-    connect(m_model, &QAbstractItemModel::modelReset, this, &ListWinController::restoreSelection);
-    connect(m_listTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            [this] { m_deleteAction->setEnabled(isListEditable() && !selectedRecords().isEmpty()); });
+    m_listTable = new EntryTableView(m_model, central);
+    connect(m_listTable->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        m_deleteAction->setEnabled(isListEditable() && !m_listTable->selectedRecords().isEmpty());
+    });
 
     // Stacked panes: the table above, totals and memo below.
     m_splitView = new SavableSplitView(Qt::Vertical, central);
     m_splitView->setObjectName(QStringLiteral("splitView"));
     m_splitView->addWidget(m_listTable);
-    m_splitView->addWidget(buildLowerPane());
+    auto *lowerPane = new QWidget(central);
+    auto *lowerLayout = new QHBoxLayout(lowerPane);
+    lowerLayout->setContentsMargins(0, 0, 0, 0);
+    m_totalsPane = new MonthTotalsPane(lowerPane);
+    m_memo = new MonthMemo(m_controller, lowerPane);
+    lowerLayout->addWidget(m_totalsPane, 0, Qt::AlignTop);
+    lowerLayout->addWidget(m_memo, 1);
+    m_splitView->addWidget(lowerPane);
     m_splitView->setCollapsible(0, false);
     // Room goes to the table, before any layout was saved and on resizing.
     m_splitView->setStretchFactor(0, 1);
@@ -316,39 +240,14 @@ QWidget *ListWinController::buildMonthBar()
     return bar;
 }
 
-QWidget *ListWinController::buildSearchPanel()
+QWidget *ListWinController::buildSearchBar()
 {
-    auto *panel = new QWidget(this);
-    auto *layout = new QHBoxLayout(panel);
+    auto *bar = new QWidget(this);
+    auto *layout = new QHBoxLayout(bar);
     layout->setContentsMargins(0, 0, 0, 0);
-
-    m_dateSearchTF = searchField(QStringLiteral("dateSearchTF"), tr("e.g. 1,5,10-12"), 18, panel);
-    m_categorySearchPp = new CheckPopUpButton(tr("Category"), panel);
-    m_categorySearchPp->setObjectName(QStringLiteral("categorySearchPp"));
-    m_detailsSearchTF = searchField(QStringLiteral("detailsSearchTF"), tr("Any of these words"),
-                                    22, panel);
-    m_amountMinSearchTF = searchField(QStringLiteral("amountMinSearchTF"), tr("From"), 10, panel);
-    m_amountMaxSearchTF = searchField(QStringLiteral("amountMaxSearchTF"), tr("To"), 10, panel);
-    for (QLineEdit *field : {m_dateSearchTF, m_amountMinSearchTF, m_amountMaxSearchTF})
-        field->setFixedWidth(field->minimumWidth());
-    m_paywaySearchPp = new CheckPopUpButton(tr("Payment method"), panel);
-    m_paywaySearchPp->setObjectName(QStringLiteral("paywaySearchPp"));
-
-    const auto labelFor = [panel](const QString &text, QWidget *buddy) {
-        auto *label = new QLabel(text, panel);
-        label->setBuddy(buddy);
-        return label;
-    };
-    layout->addWidget(labelFor(tr("&Days:"), m_dateSearchTF));
-    layout->addWidget(m_dateSearchTF);
-    layout->addWidget(labelFor(tr("&Words:"), m_detailsSearchTF));
-    layout->addWidget(m_detailsSearchTF, 1);
-    layout->addWidget(labelFor(tr("&Amount:"), m_amountMinSearchTF));
-    layout->addWidget(m_amountMinSearchTF);
-    layout->addWidget(new QLabel(QStringLiteral("–"), panel));
-    layout->addWidget(m_amountMaxSearchTF);
-    layout->addWidget(m_categorySearchPp);
-    layout->addWidget(m_paywaySearchPp);
+    m_searchPanel = new ListSearchPanel(bar);
+    connect(m_searchPanel, &ListSearchPanel::keysChanged, this, &ListWinController::extractData);
+    layout->addWidget(m_searchPanel, 1);
 
     m_clearSearchAction = new QAction(tr("Clear &Search"), this);
     m_clearSearchAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_K));
@@ -356,61 +255,12 @@ QWidget *ListWinController::buildSearchPanel()
         clearExtractKey();
         extractData();
     });
-    auto *clearButton = new QPushButton(tr("Clear"), panel);
+    auto *clearButton = new QPushButton(tr("Clear"), bar);
     clearButton->setObjectName(QStringLiteral("clearSearchButton"));
     clearButton->setToolTip(tr("Show every entry of the month"));
     connect(clearButton, &QPushButton::clicked, m_clearSearchAction, &QAction::trigger);
     layout->addWidget(clearButton);
-
-    // The search follows the typing.
-    for (QLineEdit *field : {m_dateSearchTF, m_detailsSearchTF, m_amountMinSearchTF,
-                             m_amountMaxSearchTF})
-        connect(field, &QLineEdit::textChanged, this, &ListWinController::extractData);
-    for (CheckPopUpButton *button : {m_categorySearchPp, m_paywaySearchPp})
-        connect(button, &CheckPopUpButton::checksChanged, this, &ListWinController::extractData);
-    return panel;
-}
-
-QWidget *ListWinController::buildLowerPane()
-{
-    auto *pane = new QWidget(this);
-    auto *layout = new QHBoxLayout(pane);
-    layout->setContentsMargins(0, 0, 0, 0);
-
-    m_totalsBox = new QGroupBox(tr("This Month"), pane);
-    m_totalsBox->setObjectName(QStringLiteral("totalsBox"));
-    auto *totals = new QFormLayout(m_totalsBox);
-    totals->setLabelAlignment(Qt::AlignLeft);
-    m_expendTotalTF = amountLabel(QStringLiteral("expendTotalTF"), m_totalsBox);
-    m_incomeTotalTF = amountLabel(QStringLiteral("incomeTotalTF"), m_totalsBox);
-    m_balanceTF = amountLabel(QStringLiteral("balanceTF"), m_totalsBox);
-    totals->addRow(tr("Spending:"), m_expendTotalTF);
-    totals->addRow(tr("Income:"), m_incomeTotalTF);
-    totals->addRow(tr("Balance:"), m_balanceTF);
-
-    auto *foundBox = new QGroupBox(tr("Shown Entries"), pane);
-    auto *found = new QFormLayout(foundBox);
-    m_extractedTotalTF = amountLabel(QStringLiteral("extractedTotalTF"), foundBox);
-    m_extractedRateTF = amountLabel(QStringLiteral("extractedRateTF"), foundBox);
-    m_extractedBalanceTF = amountLabel(QStringLiteral("extractedBalanceTF"), foundBox);
-    found->addRow(tr("Spending:"), m_extractedTotalTF);
-    found->addRow(tr("Share of the month:"), m_extractedRateTF);
-    found->addRow(tr("Balance:"), m_extractedBalanceTF);
-
-    auto *memoBox = new QGroupBox(tr("Memo"), pane);
-    auto *memo = new QVBoxLayout(memoBox);
-    m_summaryText = new QPlainTextEdit(memoBox);
-    m_summaryText->setObjectName(QStringLiteral("summaryText"));
-    m_summaryText->setTabChangesFocus(true);
-    m_summaryText->setMinimumHeight(m_summaryText->fontMetrics().height() * 3);
-    memo->addWidget(m_summaryText);
-    connect(m_summaryText, &QPlainTextEdit::textChanged, &m_summaryTimer,
-            qOverload<>(&QTimer::start));
-
-    layout->addWidget(m_totalsBox, 0, Qt::AlignTop);
-    layout->addWidget(foundBox, 0, Qt::AlignTop);
-    layout->addWidget(memoBox, 1);
-    return pane;
+    return bar;
 }
 
 void ListWinController::buildMenus()
@@ -435,19 +285,7 @@ void ListWinController::buildMenus()
     view->addSeparator();
     view->addAction(m_clearSearchAction);
     view->addSeparator();
-    m_tableColumnMenu = view->addMenu(tr("&Columns"));
-    m_tableColumnMenu->setObjectName(QStringLiteral("tableColumnMenu"));
-    // Every column can be hidden; year and month are, at first, since the
-    // heading names them.
-    for (int column = 0; column < DataListTableModel::ColumnCount; ++column) {
-        QAction *item = m_tableColumnMenu->addAction(
-            m_model->headerData(column, Qt::Horizontal).toString());
-        item->setCheckable(true);
-        item->setChecked(column != DataListTableModel::YearColumn
-                         && column != DataListTableModel::MonthColumn);
-        item->setData(column);
-        connect(item, &QAction::triggered, this, &ListWinController::toggleColumnMenuCheck);
-    }
+    view->addMenu(m_listTable->columnMenu());
 }
 
 int ListWinController::year() const
@@ -514,12 +352,11 @@ void ListWinController::changeDataList()
 
 void ListWinController::reloadDataList()
 {
-    commitSummary();
     std::shared_ptr<DataList> list = m_controller->listForYear(year(), month(), true);
     if (!list)
         return;
     m_currentDataList = std::move(list);
-    showSummary();
+    m_memo->showMonth(year(), month());
     updateHeading();
     // The panel's keys go with the user into the month shown.
     applyPanelKeys();
@@ -532,8 +369,7 @@ void ListWinController::readListPreference()
     m_categoryList = m_controller->categoryList();
     m_paywayList = m_controller->paywayList();
     m_model->setNames(m_categoryList, m_paywayList);
-    m_categorySearchPp->replaceItems(m_categoryList);
-    m_paywaySearchPp->replaceItems(m_paywayList);
+    m_searchPanel->setNames(m_categoryList, m_paywayList);
     if (m_currentDataList && m_currentDataList->year() == year()
         && m_currentDataList->month() == month())
         reloadDataList();
@@ -543,36 +379,19 @@ void ListWinController::readListPreference()
 
 void ListWinController::clearExtractKey()
 {
-    for (QLineEdit *field : {m_dateSearchTF, m_detailsSearchTF, m_amountMaxSearchTF,
-                             m_amountMinSearchTF}) {
-        const QSignalBlocker blocker(field);
-        field->clear();
-    }
-    m_categorySearchPp->setStateToAllItem(false);
-    m_paywaySearchPp->setStateToAllItem(false);
+    m_searchPanel->clear();
 }
 
 void ListWinController::showDataOfCategory(int index)
 {
-    clearExtractKey();
-    if (index >= 0 && index < m_categoryList.size())
-        m_categorySearchPp->setStateWithTagArray({index});
+    m_searchPanel->checkOnly(ListSearchPanel::Kind::Category, index);
     extractData();
 }
 
 void ListWinController::showDataOfPayway(int index)
 {
-    clearExtractKey();
-    if (index >= 0 && index < m_paywayList.size())
-        m_paywaySearchPp->setStateWithTagArray({index});
+    m_searchPanel->checkOnly(ListSearchPanel::Kind::Payway, index);
     extractData();
-}
-
-bool ListWinController::panelHasKeys() const
-{
-    return !m_dateSearchTF->text().isEmpty() || !m_detailsSearchTF->text().isEmpty()
-        || amountBound(m_amountMaxSearchTF) != 0 || amountBound(m_amountMinSearchTF) != 0
-        || m_categorySearchPp->menuIsChecked() || m_paywaySearchPp->menuIsChecked();
 }
 
 void ListWinController::extractData()
@@ -586,21 +405,7 @@ void ListWinController::extractData()
 
 void ListWinController::applyPanelKeys()
 {
-    ExtractKeyDict keys;
-    keys.incomeNumber = int(m_categoryList.size()) - 1;
-    if (!m_dateSearchTF->text().isEmpty())
-        keys.date = separateDateKeyToArray(m_dateSearchTF->text());
-    if (const QList<int> tags = m_categorySearchPp->checkedItemTagArray(); !tags.isEmpty())
-        keys.category = tags;
-    if (!m_detailsSearchTF->text().isEmpty())
-        keys.details = separateStringKeyToArray(m_detailsSearchTF->text());
-    if (const int bound = amountBound(m_amountMaxSearchTF); bound != 0)
-        keys.amountMax = float(bound);
-    if (const int bound = amountBound(m_amountMinSearchTF); bound != 0)
-        keys.amountMin = float(bound);
-    if (const QList<int> tags = m_paywaySearchPp->checkedItemTagArray(); !tags.isEmpty())
-        keys.payway = tags;
-    m_currentDataList->setextractKeyDict(keys);
+    m_currentDataList->setextractKeyDict(m_searchPanel->keys(int(m_categoryList.size()) - 1));
     m_currentDataList->extractList();
 }
 
@@ -609,28 +414,11 @@ void ListWinController::reloadData()
     const DataList *list = m_currentDataList.get();
     if (!list)
         return;
-    const double expend = list->expendTotal();
-    const double income = list->incomeTotal();
-    m_expendTotalTF->setText(amountText(expend));
-    m_incomeTotalTF->setText(amountText(income));
-    m_balanceTF->setText(amountText(income - expend));
-    m_extractedTotalTF->setText(amountText(list->extractedTotal()));
-    // The share is taken of the amounts as shown.
-    const double shownExpend = shownAmount(expend);
-    const double rate =
-        shownExpend != 0 ? shownAmount(list->extractedTotal()) / shownExpend * 100.0 : 0.0;
-    m_extractedRateTF->setText(tr("%1 %").arg(QLocale().toString(rate, 'f', 1)));
-    m_extractedBalanceTF->setText(amountText(
-        list->extractedIncomeTotal() - list->extractedTotal()));
-
     const QDate previous = QDate(year(), month(), 1).addMonths(-1);
     const auto last = m_controller->listForYear(previous.year(), previous.month(), true);
-    const QString balance =
-        last ? amountText(last->incomeTotal() - last->expendTotal()) : QString();
-    // The translation may place the value itself; otherwise it follows.
-    const QString label = QCoreApplication::translate("Localizable", "Balance of last month");
-    m_totalsBox->setToolTip(label.contains(u"%1") ? label.arg(balance)
-                                                    : label + QStringLiteral(": ") + balance);
+    m_totalsPane->showTotals(*list, last ? std::optional<double>(last->incomeTotal()
+                                                                 - last->expendTotal())
+                                         : std::nullopt);
 }
 
 QString ListWinController::heading() const
@@ -648,48 +436,9 @@ void ListWinController::updateHeading()
     setWindowTitle(tr("%1 – Entries").arg(heading()));
 }
 
-void ListWinController::showSummary()
-{
-    m_summaryTimer.stop();
-    // A closing-day month shows the memo of the calendar month of its name.
-    m_summaryList = m_controller->monthListForYear(year(), month());
-    const QSignalBlocker blocker(m_summaryText);
-    if (!m_summaryList) {
-        m_summaryText->clear();
-        m_summaryText->setReadOnly(true);
-        return;
-    }
-    m_summaryText->setPlainText(m_summaryList->summary());
-    m_summaryText->setReadOnly(m_summaryList->isReadOnly());
-    m_summaryText->setPlaceholderText(
-        m_summaryList->isReadOnly() ? tr("This month's file could not be read.")
-                                    : tr("Notes on %1 %2")
-                                          .arg(QLocale().standaloneMonthName(month()))
-                                          .arg(year()));
-}
-
-void ListWinController::editSummary()
-{
-    m_summaryTimer.stop();
-    if (!m_summaryList || m_summaryList->isReadOnly())
-        return;
-    const QString text = m_summaryText->toPlainText();
-    if (text == m_summaryList->summary())
-        return;
-    m_summaryList->setSummary(text);
-    m_summaryList->setIsEdited(true);
-}
-
-void ListWinController::commitSummary()
-{
-    editSummary();
-    if (m_summaryList && m_summaryList->isEdited())
-        m_controller->writeDataListToFile(m_summaryList.get());
-}
-
 void ListWinController::saveData()
 {
-    editSummary();
+    m_memo->edit();
 }
 
 bool ListWinController::isListEditable() const
@@ -701,14 +450,11 @@ void ListWinController::setListEditable(bool editable)
 {
     // Checking the action comes back here with nothing left to change.
     m_editAction->setChecked(editable);
-    m_deleteAction->setEnabled(editable && !selectedRecords().isEmpty());
+    m_deleteAction->setEnabled(editable && !m_listTable->selectedRecords().isEmpty());
     if (editable == isListEditable())
         return;
     m_model->setEditable(editable);
-    m_listTable->setEditTriggers(editable ? QAbstractItemView::DoubleClicked
-                                                | QAbstractItemView::EditKeyPressed
-                                                | QAbstractItemView::SelectedClicked
-                                          : QAbstractItemView::NoEditTriggers);
+    m_listTable->setEditable(editable);
     if (editable)
         statusBar()->showMessage(
             tr("Double-click a cell to change it. A changed month or year moves the entry there."));
@@ -717,47 +463,9 @@ void ListWinController::setListEditable(bool editable)
     m_model->reload();
 }
 
-PaymentArray ListWinController::selectedRecords() const
-{
-    PaymentArray records;
-    QModelIndexList rows = m_listTable->selectionModel()->selectedRows();
-    std::sort(rows.begin(), rows.end());
-    for (const QModelIndex &row : std::as_const(rows)) {
-        if (PaymentDataPtr record = m_model->dataAtIndex(row.row()))
-            records.append(record);
-    }
-    return records;
-}
-
-void ListWinController::rememberSelection()
-{
-    // Another month coming in: nothing to keep.
-    if (m_model->dataList() == m_currentDataList.get())
-        m_selectionToRestore = selectedRecords();
-}
-
-void ListWinController::restoreSelection()
-{
-    if (!m_sorting)
-        m_listTable->horizontalHeader()->setSortIndicatorShown(false);
-    if (m_selectionToRestore.isEmpty())
-        return;
-    QItemSelection selection;
-    for (int row = 0; row < m_model->rowCount(); ++row) {
-        if (m_selectionToRestore.contains(m_model->dataAtIndex(row)))
-            selection.select(m_model->index(row, 0),
-                             m_model->index(row, DataListTableModel::ColumnCount - 1));
-    }
-    m_selectionToRestore.clear();
-    m_listTable->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
-}
-
 PaymentDataPtr ListWinController::dataForSelectedRow() const
 {
-    const QModelIndex current = m_listTable->selectionModel()->currentIndex();
-    if (!current.isValid() || !m_listTable->selectionModel()->isRowSelected(current.row()))
-        return nullptr;
-    return m_model->dataAtIndex(current.row());
+    return m_listTable->currentRecord();
 }
 
 PaymentDataPtr ListWinController::dataAtIndex(int row) const
@@ -777,7 +485,7 @@ void ListWinController::makeNewData()
 
 void ListWinController::deleteData()
 {
-    const PaymentArray records = selectedRecords();
+    const PaymentArray records = m_listTable->selectedRecords();
     if (!isListEditable() || records.isEmpty())
         return;
     auto *box = new QMessageBox(QMessageBox::Warning, tr("Delete Entries"),
@@ -793,102 +501,13 @@ void ListWinController::deleteData()
     box->open();
 }
 
-void ListWinController::sortByColumn(int column)
-{
-    m_sorting = true;
-    const Qt::SortOrder order = m_model->sortByColumn(column);
-    m_sorting = false;
-    QHeaderView *header = m_listTable->horizontalHeader();
-    header->setSortIndicator(column, order);
-    header->setSortIndicatorShown(m_model->rowCount() > 0);
-}
-
-void ListWinController::toggleColumnMenuCheck()
-{
-    resetTableColumn();
-    saveColumnMenuStates();
-}
-
-void ListWinController::resetTableColumn()
-{
-    QHeaderView *header = m_listTable->horizontalHeader();
-    const QList<QAction *> items = m_tableColumnMenu->actions();
-    for (const QAction *item : items) {
-        const int column = item->data().toInt();
-        const bool hidden = header->isSectionHidden(column);
-        if (!hidden && !item->isChecked()) {
-            header->hideSection(column);
-        } else if (hidden && item->isChecked()) {
-            // A column shown again joins at the right end.
-            header->showSection(column);
-            header->moveSection(header->visualIndex(column), header->count() - 1);
-        }
-    }
-}
-
-void ListWinController::saveColumnMenuStates()
-{
-    QList<int> states;
-    const QList<QAction *> items = m_tableColumnMenu->actions();
-    for (const QAction *item : items)
-        states.append(item->isChecked() ? 1 : 0);
-    Settings settings;
-    settings.setColumnMenuStates(states);
-    settings.sync();
-}
-
-void ListWinController::readColumnMenuStates()
-{
-    const QList<int> states = Settings().columnMenuStates();
-    const QList<QAction *> items = m_tableColumnMenu->actions();
-    for (qsizetype i = 0; i < states.size() && i < items.size(); ++i)
-        items.at(i)->setChecked(states.at(i) != 0);
-    resetTableColumn();
-}
-
-QList<int> ListWinController::visibleColumns() const
-{
-    QList<int> columns;
-    const QHeaderView *header = m_listTable->horizontalHeader();
-    for (int visual = 0; visual < header->count(); ++visual) {
-        const int column = header->logicalIndex(visual);
-        if (!header->isSectionHidden(column))
-            columns.append(column);
-    }
-    return columns;
-}
-
-QString ListWinController::searchDescription() const
-{
-    QStringList parts;
-    if (!m_dateSearchTF->text().isEmpty())
-        parts.append(tr("days %1").arg(m_dateSearchTF->text()));
-    if (!m_detailsSearchTF->text().isEmpty())
-        parts.append(tr("words %1").arg(m_detailsSearchTF->text()));
-    if (amountBound(m_amountMinSearchTF) != 0)
-        parts.append(tr("from %1").arg(m_amountMinSearchTF->text()));
-    if (amountBound(m_amountMaxSearchTF) != 0)
-        parts.append(tr("up to %1").arg(m_amountMaxSearchTF->text()));
-    for (const CheckPopUpButton *button : {m_categorySearchPp, m_paywaySearchPp}) {
-        if (button->menuIsChecked())
-            parts.append(button->checkedItemTitles().join(QStringLiteral(", ")));
-    }
-    return parts.join(QStringLiteral("; "));
-}
-
 void ListWinController::printList(QPagedPaintDevice *device) const
 {
-    ListPrintout::Totals totals{{tr("Spending"), m_expendTotalTF->text()},
-                                {tr("Income"), m_incomeTotalTF->text()},
-                                {tr("Balance"), m_balanceTF->text()}};
-    QString note;
-    if (panelHasKeys()) {
-        note = tr("Entries found by: %1").arg(searchDescription());
-        totals.append({tr("Spending of the entries shown"), m_extractedTotalTF->text()});
-        totals.append({tr("Share of the month"), m_extractedRateTF->text()});
-        totals.append({tr("Balance of the entries shown"), m_extractedBalanceTF->text()});
-    }
-    ListPrintout(*m_model, visibleColumns(), heading(), note, totals).print(device);
+    const bool searched = m_searchPanel->hasKeys();
+    const QString note =
+        searched ? tr("Entries found by: %1").arg(m_searchPanel->description()) : QString();
+    ListPrintout(*m_model, m_listTable->visibleColumns(), heading(), note, m_totalsPane->printedTotals(searched))
+        .print(device);
 }
 
 void ListWinController::printPenwick()
@@ -934,13 +553,13 @@ void ListWinController::saveWindowState()
 {
     Settings settings;
     settings.setSavedLayout(SettingsKeys::ListWindow, saveGeometry());
-    settings.setSavedLayout(SettingsKeys::DataListTable, m_listTable->horizontalHeader()->saveState());
     settings.sync();
+    m_listTable->saveColumns();
 }
 
 void ListWinController::closeEvent(QCloseEvent *event)
 {
-    commitSummary();
+    m_memo->commit();
     saveWindowState();
     QMainWindow::closeEvent(event);
 }

@@ -3,25 +3,21 @@
 #include "model/PaymentData.h"
 
 #include <QMainWindow>
-#include <QTimer>
 
 #include <memory>
 
-class CheckPopUpButton;
 class DataList;
 class DataListTableModel;
+class EntryTableView;
 class KController;
-class MonthDataList;
+class ListSearchPanel;
+class MonthMemo;
+class MonthTotalsPane;
 class QAction;
-class QGroupBox;
 class QLabel;
-class QLineEdit;
-class QMenu;
 class QPagedPaintDevice;
-class QPlainTextEdit;
 class QPrinter;
 class QSpinBox;
-class QTableView;
 class SavableSplitView;
 
 // The list window: one month's entries as a table with the month's totals,
@@ -94,8 +90,7 @@ private:
 
     void buildWindow();
     QWidget *buildMonthBar();
-    QWidget *buildSearchPanel();
-    QWidget *buildLowerPane();
+    QWidget *buildSearchBar();
     void buildMenus();
 
     // The month of the fields against the list shown: reload on a change.
@@ -111,55 +106,23 @@ private:
     void updateHeading();
     QString heading() const;
 
-    void showSummary();
-    void editSummary();
-    // editSummary, then writes the memo's month at once.
-    void commitSummary();
-
-    void toggleColumnMenuCheck();
-    void resetTableColumn();
-    void saveColumnMenuStates();
-    void readColumnMenuStates();
-    void sortByColumn(int column);
-
-    PaymentArray selectedRecords() const;
-    void rememberSelection();
-    void restoreSelection();
-    bool panelHasKeys() const;
-    QList<int> visibleColumns() const;
-    // What the panel searches for, in words, for the printout.
-    QString searchDescription() const;
     void printList(QPagedPaintDevice *device) const;
     void saveWindowState();
 
     KController *m_controller;
     std::shared_ptr<DataList> m_currentDataList;
-    // The calendar month whose memo is shown.
-    std::shared_ptr<MonthDataList> m_summaryList;
     QStringList m_categoryList;
     QStringList m_paywayList;
 
     QSpinBox *m_yearTF = nullptr;
     QSpinBox *m_monthTF = nullptr;
     QLabel *m_headingLabel = nullptr;
-    QTableView *m_listTable = nullptr;
+    EntryTableView *m_listTable = nullptr;
     DataListTableModel *m_model = nullptr;
-    QLineEdit *m_dateSearchTF = nullptr;
-    CheckPopUpButton *m_categorySearchPp = nullptr;
-    QLineEdit *m_detailsSearchTF = nullptr;
-    QLineEdit *m_amountMaxSearchTF = nullptr;
-    QLineEdit *m_amountMinSearchTF = nullptr;
-    CheckPopUpButton *m_paywaySearchPp = nullptr;
-    QGroupBox *m_totalsBox = nullptr;
-    QLabel *m_expendTotalTF = nullptr;
-    QLabel *m_incomeTotalTF = nullptr;
-    QLabel *m_balanceTF = nullptr;
-    QLabel *m_extractedTotalTF = nullptr;
-    QLabel *m_extractedRateTF = nullptr;
-    QLabel *m_extractedBalanceTF = nullptr;
+    ListSearchPanel *m_searchPanel = nullptr;
+    MonthTotalsPane *m_totalsPane = nullptr;
+    MonthMemo *m_memo = nullptr;
     SavableSplitView *m_splitView = nullptr;
-    QPlainTextEdit *m_summaryText = nullptr;
-    QMenu *m_tableColumnMenu = nullptr;
     QAction *m_editAction = nullptr;
     QAction *m_newAction = nullptr;
     QAction *m_deleteAction = nullptr;
@@ -171,9 +134,5 @@ private:
 
     // The print settings, kept from one print to the next.
     std::unique_ptr<QPrinter> m_printer;
-    // The memo is handed to its month shortly after typing pauses.
-    QTimer m_summaryTimer;
-    PaymentArray m_selectionToRestore;
-    bool m_sorting = false;
     QLabel *m_unsavedLabel = nullptr;
 };
