@@ -241,30 +241,6 @@
             <translation>Book Entries</translation>
         </message>
         <message>
-            <source>&amp;Date:</source>
-            <translation>&amp;Date:</translation>
-        </message>
-        <message>
-            <source>Year</source>
-            <translation>Year</translation>
-        </message>
-        <message>
-            <source>Month</source>
-            <translation>Month</translation>
-        </message>
-        <message>
-            <source>Day</source>
-            <translation>Day</translation>
-        </message>
-        <message>
-            <source>Previous day</source>
-            <translation>Previous day</translation>
-        </message>
-        <message>
-            <source>Next day</source>
-            <translation>Next day</translation>
-        </message>
-        <message>
             <source>Date</source>
             <translation>Date</translation>
         </message>
@@ -307,34 +283,6 @@
         <message>
             <source>&amp;Book</source>
             <translation>&amp;Book</translation>
-        </message>
-        <message>
-            <source>Some entries were not booked and are still here.</source>
-            <translation>Some entries were not booked and are still here.</translation>
-        </message>
-        <message>
-            <source>The amount in row %1 cannot be booked.</source>
-            <translation>The amount in row %1 cannot be booked.</translation>
-        </message>
-        <message>
-            <source>Book into the year %1?</source>
-            <translation>Book into the year %1?</translation>
-        </message>
-        <message>
-            <source>Book into the years %1?</source>
-            <translation>Book into the years %1?</translation>
-        </message>
-        <message>
-            <source>That is more than a year away from today.</source>
-            <translation>That is more than a year away from today.</translation>
-        </message>
-        <message>
-            <source>Book</source>
-            <translation>Book</translation>
-        </message>
-        <message>
-            <source>Change the Year</source>
-            <translation>Change the Year</translation>
         </message>
     </context>
     <context>
@@ -1357,6 +1305,64 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>&amp;Columns</source>
             <translation>&amp;Columns</translation>
+        </message>
+    </context>
+    <context>
+        <name>InputDateBar</name>
+        <message>
+            <source>&amp;Date:</source>
+            <translation>&amp;Date:</translation>
+        </message>
+        <message>
+            <source>Year</source>
+            <translation>Year</translation>
+        </message>
+        <message>
+            <source>Month</source>
+            <translation>Month</translation>
+        </message>
+        <message>
+            <source>Day</source>
+            <translation>Day</translation>
+        </message>
+        <message>
+            <source>Previous day</source>
+            <translation>Previous day</translation>
+        </message>
+        <message>
+            <source>Next day</source>
+            <translation>Next day</translation>
+        </message>
+    </context>
+    <context>
+        <name>InputSheets</name>
+        <message>
+            <source>The amount in row %1 cannot be booked.</source>
+            <translation>The amount in row %1 cannot be booked.</translation>
+        </message>
+        <message>
+            <source>Book into the year %1?</source>
+            <translation>Book into the year %1?</translation>
+        </message>
+        <message>
+            <source>Book into the years %1?</source>
+            <translation>Book into the years %1?</translation>
+        </message>
+        <message>
+            <source>That is more than a year away from today.</source>
+            <translation>That is more than a year away from today.</translation>
+        </message>
+        <message>
+            <source>Book</source>
+            <translation>Book</translation>
+        </message>
+        <message>
+            <source>Change the Year</source>
+            <translation>Change the Year</translation>
+        </message>
+        <message>
+            <source>Some entries were not booked and are still here.</source>
+            <translation>Some entries were not booked and are still here.</translation>
         </message>
     </context>
 </TS>

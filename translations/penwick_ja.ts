@@ -240,30 +240,6 @@
             <translation>記帳</translation>
         </message>
         <message>
-            <source>&amp;Date:</source>
-            <translation>日付(&amp;D):</translation>
-        </message>
-        <message>
-            <source>Year</source>
-            <translation>年</translation>
-        </message>
-        <message>
-            <source>Month</source>
-            <translation>月</translation>
-        </message>
-        <message>
-            <source>Day</source>
-            <translation>日</translation>
-        </message>
-        <message>
-            <source>Previous day</source>
-            <translation>前の日</translation>
-        </message>
-        <message>
-            <source>Next day</source>
-            <translation>次の日</translation>
-        </message>
-        <message>
             <source>Date</source>
             <translation>日付</translation>
         </message>
@@ -306,34 +282,6 @@
         <message>
             <source>&amp;Book</source>
             <translation>記帳(&amp;B)</translation>
-        </message>
-        <message>
-            <source>Some entries were not booked and are still here.</source>
-            <translation>記帳されなかった項目があり、そのまま残しています。</translation>
-        </message>
-        <message>
-            <source>The amount in row %1 cannot be booked.</source>
-            <translation>%1 行目の金額は記帳できません。</translation>
-        </message>
-        <message>
-            <source>Book into the year %1?</source>
-            <translation>%1 年に記帳しますか？</translation>
-        </message>
-        <message>
-            <source>Book into the years %1?</source>
-            <translation>%1 年に記帳しますか？</translation>
-        </message>
-        <message>
-            <source>That is more than a year away from today.</source>
-            <translation>今日から1年以上離れた年です。</translation>
-        </message>
-        <message>
-            <source>Book</source>
-            <translation>記帳</translation>
-        </message>
-        <message>
-            <source>Change the Year</source>
-            <translation>年を直す</translation>
         </message>
     </context>
     <context>
@@ -1355,6 +1303,64 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>&amp;Columns</source>
             <translation>列(&amp;C)</translation>
+        </message>
+    </context>
+    <context>
+        <name>InputDateBar</name>
+        <message>
+            <source>&amp;Date:</source>
+            <translation>日付(&amp;D):</translation>
+        </message>
+        <message>
+            <source>Year</source>
+            <translation>年</translation>
+        </message>
+        <message>
+            <source>Month</source>
+            <translation>月</translation>
+        </message>
+        <message>
+            <source>Day</source>
+            <translation>日</translation>
+        </message>
+        <message>
+            <source>Previous day</source>
+            <translation>前の日</translation>
+        </message>
+        <message>
+            <source>Next day</source>
+            <translation>次の日</translation>
+        </message>
+    </context>
+    <context>
+        <name>InputSheets</name>
+        <message>
+            <source>The amount in row %1 cannot be booked.</source>
+            <translation>%1 行目の金額は記帳できません。</translation>
+        </message>
+        <message>
+            <source>Book into the year %1?</source>
+            <translation>%1 年に記帳しますか？</translation>
+        </message>
+        <message>
+            <source>Book into the years %1?</source>
+            <translation>%1 年に記帳しますか？</translation>
+        </message>
+        <message>
+            <source>That is more than a year away from today.</source>
+            <translation>今日から1年以上離れた年です。</translation>
+        </message>
+        <message>
+            <source>Book</source>
+            <translation>記帳</translation>
+        </message>
+        <message>
+            <source>Change the Year</source>
+            <translation>年を直す</translation>
+        </message>
+        <message>
+            <source>Some entries were not booked and are still here.</source>
+            <translation>記帳されなかった項目があり、そのまま残しています。</translation>
         </message>
     </context>
 </TS>

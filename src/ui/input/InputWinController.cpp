@@ -3,7 +3,9 @@
 #include "entry/EntryCheck.h"
 #include "entry/NumberUtility.h"
 #include "input/DescriptionListModel.h"
+#include "input/InputDateBar.h"
 #include "input/InputRow.h"
+#include "input/InputSheets.h"
 #include "ledger/KController.h"
 #include "model/EntryLimits.h"
 #include "model/Notifications.h"
@@ -53,15 +55,6 @@ QString categoryPlaceholder()
     return QCoreApplication::translate("Localizable", "Category");
 }
 
-QLineEdit *dateField(QWidget *parent, int width, const QString &accessibleName)
-{
-    auto *field = new QLineEdit(parent);
-    field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    field->setFixedWidth(width);
-    field->setAccessibleName(accessibleName);
-    return field;
-}
-
 QLabel *columnTitle(const QString &text, QWidget *parent, int width = -1,
                     Qt::Alignment alignment = Qt::AlignLeft)
 {
@@ -70,20 +63,6 @@ QLabel *columnTitle(const QString &text, QWidget *parent, int width = -1,
     if (width >= 0)
         title->setFixedWidth(width);
     return title;
-}
-
-QToolButton *dayButton(Qt::ArrowType arrow, const QString &name, const QKeySequence &shortcut,
-                       QWidget *parent)
-{
-    auto *button = new QToolButton(parent);
-    button->setArrowType(arrow);
-    button->setAutoRaise(true);
-    // Reached by its shortcut; Tab stays within the fields.
-    button->setFocusPolicy(Qt::NoFocus);
-    button->setShortcut(shortcut);
-    button->setAccessibleName(name);
-    button->setToolTip(QStringLiteral("%1 (%2)").arg(name, shortcut.toString(QKeySequence::NativeText)));
-    return button;
 }
 
 } // namespace
@@ -106,36 +85,9 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     const InputRow::ColumnWidths widths = InputRow::columnWidths(this);
 
     // The date on top, with buttons that step it a day at a time.
-    auto *dateLabel = new QLabel(tr("&Date:"), this);
-    m_yearTF = dateField(this, widths.month + fontMetrics().horizontalAdvance(QStringLiteral("00")),
-                         tr("Year"));
-    m_monthTF = dateField(this, widths.month, tr("Month"));
-    m_dateTF = dateField(this, widths.day, tr("Day"));
-    m_yearTF->setObjectName(QStringLiteral("yearTF"));
-    m_monthTF->setObjectName(QStringLiteral("monthTF"));
-    m_dateTF->setObjectName(QStringLiteral("dateTF"));
-    dateLabel->setBuddy(m_yearTF);
-    m_previousDayButton = dayButton(Qt::LeftArrow, tr("Previous day"),
-                                    QKeySequence(Qt::ALT | Qt::Key_Left), this);
-    m_nextDayButton = dayButton(Qt::RightArrow, tr("Next day"),
-                                QKeySequence(Qt::ALT | Qt::Key_Right), this);
-    for (QLineEdit *field : {m_yearTF, m_monthTF, m_dateTF})
-        connect(field, &QLineEdit::editingFinished, this, &InputWinController::checkDate);
-    connect(m_previousDayButton, &QToolButton::clicked, this, &InputWinController::decrementDate);
-    connect(m_nextDayButton, &QToolButton::clicked, this, &InputWinController::incrementDate);
-
-    auto *dateRow = new QHBoxLayout;
-    dateRow->setSpacing(InputRow::Spacing);
-    dateRow->addWidget(dateLabel);
-    dateRow->addWidget(m_yearTF);
-    dateRow->addWidget(new QLabel(QStringLiteral("/"), this));
-    dateRow->addWidget(m_monthTF);
-    dateRow->addWidget(new QLabel(QStringLiteral("/"), this));
-    dateRow->addWidget(m_dateTF);
-    dateRow->addSpacing(InputRow::Spacing);
-    dateRow->addWidget(m_previousDayButton);
-    dateRow->addWidget(m_nextDayButton);
-    dateRow->addStretch(1);
+    m_dateBar = new InputDateBar(widths.month, widths.day, this);
+    connect(m_dateBar, &InputDateBar::dateEdited, this, &InputWinController::setInputDate);
+    connect(m_dateBar, &InputDateBar::stepped, this, &InputWinController::moveDate);
 
     // Column titles, as wide as the columns of the rows below them.
     m_header = new QWidget(this);
@@ -208,7 +160,7 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     buttonRow->addWidget(m_OKButton);
 
     auto *layout = new QVBoxLayout(this);
-    layout->addLayout(dateRow);
+    layout->addWidget(m_dateBar);
     layout->addSpacing(InputRow::Spacing);
     layout->addWidget(m_header);
     layout->addWidget(m_scrollArea, 1);
@@ -216,8 +168,6 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     layout->addLayout(buttonRow);
 
     // Tab order: the date, the rows (linked as they are added), the buttons.
-    setTabOrder(m_yearTF, m_monthTF);
-    setTabOrder(m_monthTF, m_dateTF);
     setTabOrder(m_addRowButton, m_cancelButton);
     setTabOrder(m_cancelButton, m_inputButton);
     setTabOrder(m_inputButton, m_OKButton);
@@ -239,7 +189,7 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
         resize(std::max(sizeHint().width(), fontMetrics().averageCharWidth() * 130),
                sizeHint().height() + 5 * rowHeight);
     }
-    m_dateTF->setFocus();
+    m_dateBar->dayField()->setFocus();
 }
 
 InputWinController::~InputWinController()
@@ -260,7 +210,7 @@ void InputWinController::setYear(int year, int month, int date)
     if (!day.isValid())
         day = QDate(QDate::currentDate().year(), 1, 1);
     setInputDate(day.addMonths(month - 1).addDays(date - 1));
-    m_dateTF->setFocus();
+    m_dateBar->dayField()->setFocus();
 }
 
 bool InputWinController::canTerminateApp() const
@@ -274,35 +224,15 @@ void InputWinController::confirmInputDataBeforeTerminate()
     show();
     raise();
     activateWindow();
-    if (findChild<QMessageBox *>(QStringLiteral("quitSheet")))
-        return;
-
-    auto *sheet = new QMessageBox(this);
-    sheet->setObjectName(QStringLiteral("quitSheet"));
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    sheet->setWindowModality(Qt::WindowModal);
-    sheet->setWindowTitle(windowTitle());
-    sheet->setIcon(QMessageBox::Question);
-    sheet->setText(QCoreApplication::translate("Localizable", "Input Data before Quit"));
-    sheet->setInformativeText(QCoreApplication::translate("Localizable", "Quit Input Alert"));
-    QPushButton *inputAndQuit = sheet->addButton(
-        QCoreApplication::translate("Localizable", "Input and Quit"), QMessageBox::AcceptRole);
-    QPushButton *quitWithout = sheet->addButton(
-        QCoreApplication::translate("Localizable", "Quit without Quit"), QMessageBox::DestructiveRole);
-    QPushButton *cancel = sheet->addButton(QCoreApplication::translate("Localizable", "Cancel"),
-                                           QMessageBox::RejectRole);
-    sheet->setDefaultButton(inputAndQuit);
-    sheet->setEscapeButton(cancel);
-    connect(sheet, &QMessageBox::finished, this, [this, sheet, inputAndQuit, quitWithout] {
-        if (sheet->clickedButton() == inputAndQuit) {
+    InputSheets::askBeforeQuit(this, [this](InputSheets::QuitChoice choice) {
+        if (choice == InputSheets::QuitChoice::BookAndQuit) {
             inputDataAndQuit();
-        } else if (sheet->clickedButton() == quitWithout) {
+        } else if (choice == InputSheets::QuitChoice::QuitWithoutBooking) {
             // Closing discards the rows, so the quit meets nothing pending.
             close();
             emit quitRequested();
         }
     });
-    sheet->open();
 }
 
 QWidget *InputWinController::getControlWithTag(int tag) const
@@ -351,21 +281,14 @@ void InputWinController::submit(int afterInputWork)
 
 void InputWinController::showAmountSheet(InputRow *faultyRow)
 {
-    auto *sheet = new QMessageBox(QMessageBox::Warning, windowTitle(),
-                                  tr("The amount in row %1 cannot be booked.").arg(faultyRow->row()),
-                                  QMessageBox::Ok, this);
-    sheet->setObjectName(QStringLiteral("amountSheet"));
-    sheet->setInformativeText(faultyRow->amountProblem().value_or(QString()));
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    sheet->setWindowModality(Qt::WindowModal);
     const QPointer<QLineEdit> amount = control<QLineEdit>(faultyRow, InputRow::Amount);
-    connect(sheet, &QMessageBox::finished, this, [amount] {
-        if (amount) {
-            amount->setFocus(Qt::OtherFocusReason);
-            amount->selectAll();
-        }
-    });
-    sheet->open();
+    InputSheets::tellAmountCannotBeBooked(this, faultyRow->row(),
+                                          faultyRow->amountProblem().value_or(QString()), [amount] {
+                                              if (amount) {
+                                                  amount->setFocus(Qt::OtherFocusReason);
+                                                  amount->selectAll();
+                                              }
+                                          });
 }
 
 void InputWinController::confirmYearsAndBook()
@@ -382,60 +305,25 @@ void InputWinController::confirmYearsAndBook()
         bookInputData();
         return;
     }
-
-    std::sort(farYears.begin(), farYears.end());
-    QStringList years;
-    for (int year : std::as_const(farYears))
-        years.append(QString::number(year));
-    auto *sheet = new QMessageBox(this);
-    sheet->setObjectName(QStringLiteral("yearSheet"));
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    sheet->setWindowModality(Qt::WindowModal);
-    sheet->setWindowTitle(windowTitle());
-    sheet->setIcon(QMessageBox::Question);
-    sheet->setText((years.size() == 1 ? tr("Book into the year %1?") : tr("Book into the years %1?"))
-                       .arg(QLocale().createSeparatedList(years)));
-    sheet->setInformativeText(tr("That is more than a year away from today."));
-    QPushButton *book = sheet->addButton(tr("Book"), QMessageBox::AcceptRole);
-    QPushButton *change = sheet->addButton(tr("Change the Year"), QMessageBox::RejectRole);
-    sheet->setDefaultButton(change);
-    sheet->setEscapeButton(change);
-    connect(sheet, &QMessageBox::finished, this, [this, sheet, book] {
-        if (sheet->clickedButton() == book) {
+    InputSheets::askToBookIntoYears(this, farYears, [this](bool book) {
+        if (book) {
             bookInputData();
             return;
         }
-        m_yearTF->setFocus(Qt::OtherFocusReason);
-        m_yearTF->selectAll();
+        m_dateBar->yearField()->setFocus(Qt::OtherFocusReason);
+        m_dateBar->yearField()->selectAll();
     });
-    sheet->open();
 }
 
 void InputWinController::showCategorySheet(InputRow *faultyRow)
 {
-    auto *sheet = new QMessageBox(this);
-    sheet->setObjectName(QStringLiteral("categorySheet"));
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    sheet->setWindowModality(Qt::WindowModal);
-    sheet->setWindowTitle(windowTitle());
-    sheet->setIcon(QMessageBox::Warning);
-    sheet->setText(QCoreApplication::translate("Localizable", "Data Category is not selected"));
-    sheet->setInformativeText(QCoreApplication::translate("Localizable", "Ignore unselected data"));
-    QPushButton *select = sheet->addButton(QCoreApplication::translate("Localizable", "Select"),
-                                           QMessageBox::RejectRole);
-    QPushButton *input = sheet->addButton(QCoreApplication::translate("Localizable", "Input"),
-                                          QMessageBox::AcceptRole);
-    sheet->setDefaultButton(select);
-    sheet->setEscapeButton(select);
     const QPointer<InputRow> row = faultyRow;
-    connect(sheet, &QMessageBox::finished, this, [this, sheet, input, row] {
-        if (sheet->clickedButton() == input) {
+    InputSheets::askToBookWithoutCategory(this, [this, row](bool book) {
+        if (book)
             confirmYearsAndBook();
-        } else if (row) {
+        else if (row)
             control<QComboBox>(row, InputRow::Category)->setFocus(Qt::OtherFocusReason);
-        }
     });
-    sheet->open();
 }
 
 void InputWinController::bookInputData()
@@ -491,7 +379,7 @@ void InputWinController::bookInputData()
     const int afterInputWork = m_afterInputWork;
     m_afterInputWork = 0;
     if (!refusedMonths.isEmpty()) {
-        reportNotBooked(reasons);
+        InputSheets::tellNotBooked(this, reasons);
         return;
     }
     close();
@@ -499,18 +387,6 @@ void InputWinController::bookInputData()
         emit listWindowRequested();
     else if (afterInputWork == 2)
         emit quitRequested();
-}
-
-void InputWinController::reportNotBooked(const QStringList &reasons)
-{
-    auto *box = new QMessageBox(QMessageBox::Warning, windowTitle(),
-                                tr("Some entries were not booked and are still here."),
-                                QMessageBox::Ok, this);
-    box->setObjectName(QStringLiteral("notBookedSheet"));
-    box->setInformativeText(reasons.join(u"\n\n"));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowModality(Qt::WindowModal);
-    box->open();
 }
 
 void InputWinController::cancelInput()
@@ -535,43 +411,24 @@ void InputWinController::moveDate(int days)
         if (isRowEmpty(row))
             setRowDate(row, rowDate(row).addDays(days));
     }
-    m_inputDate = m_inputDate.addDays(days);
-    showTopDate(m_inputDate);
+    m_dateBar->setDate(m_dateBar->date().addDays(days));
 }
 
 void InputWinController::checkDate()
 {
-    // An emptied field keeps its value; others roll over as a calendar does.
-    const auto valueOf = [](const QLineEdit *field, int current) {
-        return field->text().trimmed().isEmpty() ? current : integerValueOf(QStringView(field->text()));
-    };
-    const QDate first(valueOf(m_yearTF, m_inputDate.year()), 1, 1);
-    if (!first.isValid() || !EntryLimits::isYearInRange(first.year())) {
-        showTopDate(m_inputDate);
-        return;
-    }
-    const QDate date = first.addMonths(valueOf(m_monthTF, m_inputDate.month()) - 1)
-                           .addDays(valueOf(m_dateTF, m_inputDate.day()) - 1);
-    // Leaving a field unchanged must not reset the rows' own dates.
-    if (date == m_inputDate)
-        showTopDate(date);
-    else
-        setInputDate(date);
+    m_dateBar->checkDate();
+}
+
+QDate InputWinController::inputDate() const
+{
+    return m_dateBar->date();
 }
 
 void InputWinController::setInputDate(const QDate &date)
 {
-    m_inputDate = date;
-    showTopDate(date);
+    m_dateBar->setDate(date);
     for (InputRow *row : std::as_const(m_rows))
         setRowDate(row, date);
-}
-
-void InputWinController::showTopDate(const QDate &date)
-{
-    m_yearTF->setText(QString::number(date.year()));
-    m_monthTF->setText(QString::number(date.month()));
-    m_dateTF->setText(QString::number(date.day()));
 }
 
 void InputWinController::setRowDate(InputRow *row, const QDate &date)
@@ -586,10 +443,10 @@ QDate InputWinController::rowDate(const InputRow *row) const
     int month = integerValueOf(QStringView(control<QLineEdit>(row, InputRow::Month)->text()));
     int day = integerValueOf(QStringView(control<QLineEdit>(row, InputRow::Day)->text()));
     if (month < 1 || month > 12)
-        month = m_inputDate.month();
+        month = m_dateBar->date().month();
     const QDate first(row->year(), month, 1);
     if (day < 1)
-        day = m_inputDate.day();
+        day = m_dateBar->date().day();
     // 31 April is the last day of April, not the first of May.
     return QDate(first.year(), month, std::min(day, first.daysInMonth()));
 }
@@ -611,7 +468,7 @@ void InputWinController::makeNewInputViewFromAction()
 void InputWinController::makeNewInputView(LastPopUpButton *sender)
 {
     const InputRow *senderRow = m_rows.value(InputRow::tagOf(sender) / 10 - 1);
-    const QDate date = senderRow ? rowDate(senderRow) : m_inputDate;
+    const QDate date = senderRow ? rowDate(senderRow) : m_dateBar->date();
     InputRow *row = addRow();
     setRowDate(row, date);
     auto *month = control<QLineEdit>(row, InputRow::Month);
@@ -624,7 +481,7 @@ InputRow *InputWinController::addRow()
 {
     const int number = numberOfRows() + 1;
     QWidget *previous = m_rows.isEmpty()
-        ? static_cast<QWidget *>(m_dateTF)
+        ? static_cast<QWidget *>(m_dateBar->dayField())
         : control<QWidget>(m_rows.constLast(), InputRow::Payway);
     auto *row = new InputRow(number, m_descriptionModel, m_inputView);
     m_rows.append(row);
@@ -694,7 +551,7 @@ void InputWinController::clearDataOfView(InputRow *row)
     control<QLineEdit>(row, InputRow::Amount)->clear();
     // A cleared row is ready for the window's date rather than left without
     // one.
-    setRowDate(row, m_inputDate);
+    setRowDate(row, m_dateBar->date());
     row->categoryFromMemory = false;
     row->amountFromMemory = false;
 }
@@ -862,7 +719,7 @@ void InputWinController::closeEvent(QCloseEvent *event)
         clearDataOfView(row);
     calcurateSum();
     m_scrollArea->verticalScrollBar()->setValue(0);
-    m_dateTF->setFocus();
+    m_dateBar->dayField()->setFocus();
     QWidget::closeEvent(event);
 }
 

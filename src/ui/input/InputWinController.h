@@ -15,7 +15,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QScrollArea;
-class QToolButton;
+class InputDateBar;
 class QVBoxLayout;
 
 // The window in which entries are booked: a date on top, rows of input below
@@ -51,7 +51,7 @@ public:
     // The control of a row by its tag, 10 * row + role; null when there is
     // none.
     QWidget *getControlWithTag(int tag) const;
-    QDate inputDate() const { return m_inputDate; }
+    QDate inputDate() const;
 
 signals:
     // Booking chose to show the list, or the input was cancelled.
@@ -97,15 +97,12 @@ private:
     void updateColumnWidths();
     void changeDefaultButton();
     void setInputDate(const QDate &date);
-    void showTopDate(const QDate &date);
     void moveDate(int days);
     void setRowDate(InputRow *row, const QDate &date);
     QDate rowDate(const InputRow *row) const;
     bool isRowEmpty(const InputRow *row) const;
     double spendingTotal() const;
     void bookInputData();
-    // Tells why rows stayed in the window instead of being booked.
-    void reportNotBooked(const QStringList &reasons);
     void selectDescription(InputRow *row, int index);
     void descriptionEditingEnded(InputRow *row);
     void fillFromDescription(InputRow *row, const DescriptionMemory::Record &record);
@@ -125,12 +122,7 @@ private:
     DescriptionMemory m_descriptions;
     DescriptionListModel *m_descriptionModel;
 
-    QDate m_inputDate;
-    QLineEdit *m_yearTF;
-    QLineEdit *m_monthTF;
-    QLineEdit *m_dateTF;
-    QToolButton *m_previousDayButton;
-    QToolButton *m_nextDayButton;
+    InputDateBar *m_dateBar;
     QWidget *m_header;
     QLabel *m_categoryTitle;
     QLabel *m_paywayTitle;
