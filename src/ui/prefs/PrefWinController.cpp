@@ -11,6 +11,7 @@
 #include "storage/ColorArchive.h"
 #include "storage/ListFile.h"
 
+#include <QAbstractItemDelegate>
 #include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
@@ -97,9 +98,6 @@ PrefWinController::PrefWinController(KController *controller, QWidget *parent)
     layout->addWidget(m_tabs);
     layout->addWidget(buttons);
 
-    connect(m_categoryModel, &ListEditorModel::nameRefused, this, &PrefWinController::beep);
-    connect(m_paywayModel, &ListEditorModel::nameRefused, this, &PrefWinController::beep);
-
     readListFromDefault();
     readSettings();
     resize(480, 460);
@@ -132,6 +130,16 @@ QWidget *PrefWinController::createListTab(ListEditorModel *model, const QString 
     table->horizontalHeader()->setHighlightSections(false);
     table->horizontalHeader()->setSectionResizeMode(ListEditorModel::NameColumn,
                                                     QHeaderView::Stretch);
+    // A refused name beeps, the item's own too, except the name a new item
+    // was offered with: keeping that is no mistake.
+    connect(model, &ListEditorModel::nameRefused, this,
+            [this, model](int row, const QString &name) {
+                if (model->index(row, ListEditorModel::NameColumn) != m_offeredName
+                    || name != model->editor().name(row))
+                    beep();
+            });
+    connect(table->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+            [this] { m_offeredName = QPersistentModelIndex(); });
     if (categories) {
         table->horizontalHeader()->setSectionResizeMode(ListEditorModel::ColorColumn,
                                                         QHeaderView::ResizeToContents);
@@ -318,6 +326,7 @@ void PrefWinController::addItem(ListEditorModel *model, QTableView *view)
     const int row = model->addItem(tr("Untitled"), Qt::black);
     const QModelIndex name = model->index(row, ListEditorModel::NameColumn);
     view->setCurrentIndex(name);
+    m_offeredName = name;
     view->edit(name);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QPersistentModelIndex>
 
 #include <optional>
 
@@ -87,4 +88,6 @@ private:
     // The hash of a password chosen in this session, saved on OK; empty for
     // "no password".
     std::optional<QString> m_newPasswordHash;
+    // The name of an item just added, open for editing as offered.
+    QPersistentModelIndex m_offeredName;
 };
