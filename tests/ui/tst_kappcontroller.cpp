@@ -10,6 +10,7 @@
 #include "ledger/KController.h"
 #include "ledger/RescueFolder.h"
 #include "model/MonthDataList.h"
+#include "model/Notifications.h"
 #include "password/ConfirmPassPanelController.h"
 #include "security/PasswordLock.h"
 #include "settings/Settings.h"
@@ -24,6 +25,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -258,6 +260,13 @@ void TestKAppController::firstStartOpensPreferencesAndInput()
     QCOMPARE(preferences.size(), 1);
     QVERIFY(preferences.first()->firstSetting());
     QCOMPARE(visibleTopLevels<InputWinController>().size(), 1);
+
+    // OK with the closing day untouched stores no day and announces none.
+    QSignalSpy lastDate(Notifications::instance(), &Notifications::lastDateHasChanged);
+    preferences.first()->accept();
+    QVERIFY(!preferences.first()->isVisible());
+    QVERIFY(!QSettings(u"Penwick"_s, u"Penwick"_s).contains(u"monthLastDate"_s));
+    QCOMPARE(lastDate.size(), 0);
 }
 
 void TestKAppController::openedMonthFileShowsInTheListWindow()

@@ -11,6 +11,7 @@
 #include "prefs/PrefWinController.h"
 #include "security/PasswordLock.h"
 #include "settings/Settings.h"
+#include "settings/SettingsKeys.h"
 #include "storage/ColorArchive.h"
 #include "storage/ListFile.h"
 #include "storage/MonthFile.h"
@@ -20,9 +21,11 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTableView>
@@ -87,6 +90,8 @@ private slots:
     void duplicateNamesAreRefused();
     void cancelDropsEveryEdit();
     void okWritesTheSettingsAndAnnouncesThem();
+    void aStoredClosingDayIsKeptUntilChanged_data();
+    void aStoredClosingDayIsKeptUntilChanged();
     void aRefusedConversionKeepsTheWindowOpen();
     void missingColoursAreWrittenBlack();
     void changingTheDataFolderSavesFirst();
@@ -287,6 +292,48 @@ void TestPrefWinController::okWritesTheSettingsAndAnnouncesThem()
     m_window->show();
     QCOMPARE(child<QSpinBox>(m_window.get(), u"lastDateTF"_s)->value(), 25);
     pressOk();
+    QCOMPARE(lastDate.size(), 1);
+}
+
+void TestPrefWinController::aStoredClosingDayIsKeptUntilChanged_data()
+{
+    QTest::addColumn<QVariant>("stored"); // none: no key at all
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<int>("afterStepUp");
+    QTest::newRow("none") << QVariant() << u"–"_s << 1;
+    QTest::newRow("0") << QVariant(0) << u"0"_s << 1;
+    QTest::newRow("above 31") << QVariant(45) << u"45"_s << 1;
+    QTest::newRow("negative") << QVariant(-3) << QLocale().toString(-3) << 1;
+    QTest::newRow("a day") << QVariant(25) << u"25"_s << 26;
+}
+
+void TestPrefWinController::aStoredClosingDayIsKeptUntilChanged()
+{
+    QFETCH(QVariant, stored);
+    QFETCH(QString, shown);
+    QFETCH(int, afterStepUp);
+    QSettings raw(u"Penwick"_s, u"Penwick"_s);
+    raw.setValue(SettingsKeys::ChangeMonthLastDate, true);
+    if (stored.isValid())
+        raw.setValue(SettingsKeys::MonthLastDate, stored);
+    else
+        raw.remove(SettingsKeys::MonthLastDate);
+    m_window = std::make_unique<PrefWinController>(m_controller.get());
+    m_window->show();
+    auto *day = child<QSpinBox>(m_window.get(), u"lastDateTF"_s);
+    QCOMPARE(day->text(), shown);
+
+    QSignalSpy lastDate(Notifications::instance(), &Notifications::lastDateHasChanged);
+    pressOk();
+    QCOMPARE(raw.contains(SettingsKeys::MonthLastDate), stored.isValid());
+    QCOMPARE(raw.value(SettingsKeys::MonthLastDate).toInt(), stored.toInt());
+    QCOMPARE(lastDate.size(), 0);
+
+    // A day the user picks replaces it.
+    m_window->show();
+    day->stepUp();
+    pressOk();
+    QCOMPARE(raw.value(SettingsKeys::MonthLastDate).toInt(), afterStepUp);
     QCOMPARE(lastDate.size(), 1);
 }
 

@@ -26,6 +26,7 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -227,6 +228,11 @@ QWidget *PrefWinController::createGeneralTab()
     m_lastDate->setRange(1, 31);
     m_lastDate->setToolTip(tr("Entries after this day count towards the next month."));
     connect(m_setLastDate, &QCheckBox::toggled, m_lastDate, &QSpinBox::setEnabled);
+    // Once the user picks a day, a stored one outside the range is gone.
+    connect(m_lastDate, &QSpinBox::valueChanged, this, [this](int day) {
+        if (day > 0)
+            m_lastDate->setMinimum(1);
+    });
     auto *closingRow = new QHBoxLayout;
     closingRow->addWidget(m_setLastDate);
     closingRow->addWidget(m_lastDate);
@@ -301,7 +307,16 @@ void PrefWinController::readSettings()
     const int item = m_returnInput->findData(returnInput == 1 ? int(ReturnPressesOK) : returnInput);
     m_returnInput->setCurrentIndex(qMax(0, item));
     m_setLastDate->setChecked(settings.changeMonthLastDate());
-    m_lastDate->setValue(settings.monthLastDate());
+    // A stored day the box cannot offer (none, 0, or outside 1 to 31) shows
+    // as it is, in place of 0 below the range, and stays stored as it is
+    // until the user picks a day.
+    const int day = settings.monthLastDate();
+    const bool keepDay = !settings.hasMonthLastDate() || day < 1 || day > 31;
+    m_lastDate->setMinimum(keepDay ? 0 : 1);
+    m_lastDate->setSpecialValueText(!keepDay ? QString()
+                                    : settings.hasMonthLastDate() ? QLocale().toString(day)
+                                                                  : QStringLiteral("–"));
+    m_lastDate->setValue(keepDay ? 0 : day);
     m_lastDate->setEnabled(m_setLastDate->isChecked());
     m_newPasswordHash.reset();
     m_passwordState->setText(PasswordLock::passwordFromDefault().isEmpty()
@@ -480,11 +495,14 @@ void PrefWinController::writeSettings()
     const bool closingDayWas = settings.changeMonthLastDate();
     const int dayWas = settings.monthLastDate();
     settings.setChangeMonthLastDate(m_setLastDate->isChecked());
-    settings.setMonthLastDate(m_lastDate->value());
+    // 0 stands for the stored day, kept as it is.
+    const int day = m_lastDate->value() > 0 ? m_lastDate->value() : dayWas;
+    if (m_lastDate->value() > 0)
+        settings.setMonthLastDate(day);
     if (m_newPasswordHash)
         settings.setPasswordHash(*m_newPasswordHash);
     settings.sync();
-    if (closingDayWas != m_setLastDate->isChecked() || dayWas != m_lastDate->value())
+    if (closingDayWas != m_setLastDate->isChecked() || dayWas != day)
         emit Notifications::instance()->lastDateHasChanged();
 }
 
