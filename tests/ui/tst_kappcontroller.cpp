@@ -12,6 +12,7 @@
 #include "model/MonthDataList.h"
 #include "model/Notifications.h"
 #include "password/ConfirmPassPanelController.h"
+#include "password/SetPassPanelController.h"
 #include "security/PasswordLock.h"
 #include "settings/Settings.h"
 #include "storage/DurableFile.h"
@@ -24,6 +25,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
@@ -101,6 +103,7 @@ private slots:
 
     void withoutPasswordStartsAtOnce();
     void withPasswordNothingStartsUntilConfirmed();
+    void aPasswordSetInCancelledPreferencesLocksTheNextStart();
     void firstStartSetsUpTheDataFolder();
     void openFileTakesOnlyMonthFiles();
     void storeProblemsAreToldOncePerFile();
@@ -170,6 +173,29 @@ void TestKAppController::withPasswordNothingStartsUntilConfirmed()
     QVERIFY(controller.validateMenuItem(&probe));
     QVERIFY(QFileInfo::exists(listFile));
     QCOMPARE(Settings().version(), 1);
+}
+
+void TestKAppController::aPasswordSetInCancelledPreferencesLocksTheNextStart()
+{
+    {
+        KAppController controller;
+        controller.confirmPassword();
+        controller.showPrefWindow();
+        auto *preferences = visibleTopLevels<PrefWinController>().constFirst();
+        preferences->findChild<QPushButton *>(u"setPassword"_s)->click();
+        auto *panel = preferences->findChild<SetPassPanelController *>();
+        for (const QString &name : {u"newPassTF"_s, u"newPassTF2"_s})
+            QTest::keyClicks(panel->findChild<QLineEdit *>(name), u"secret"_s);
+        QTest::keyClick(panel->findChild<QLineEdit *>(u"newPassTF2"_s), Qt::Key_Return);
+        QTest::keyClick(preferences, Qt::Key_Escape);
+        QVERIFY(!preferences->isVisible());
+    }
+    closeTopLevels();
+
+    KAppController next;
+    next.confirmPassword();
+    QVERIFY(!next.running());
+    QCOMPARE(visibleTopLevels<ConfirmPassPanelController>().size(), 1);
 }
 
 void TestKAppController::firstStartSetsUpTheDataFolder()

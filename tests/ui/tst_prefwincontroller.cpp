@@ -20,6 +20,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMessageBox>
@@ -96,7 +97,8 @@ private slots:
     void missingColoursAreWrittenBlack();
     void changingTheDataFolderSavesFirst();
     void closingTheFirstSettingAsksForTheInputWindow();
-    void aChosenPasswordIsStoredOnlyOnOk();
+    void aConfirmedPasswordIsStoredAtOnce_data();
+    void aConfirmedPasswordIsStoredAtOnce();
 
 private:
     ListEditorModel *categories() const;
@@ -410,16 +412,44 @@ void TestPrefWinController::closingTheFirstSettingAsksForTheInputWindow()
     QCOMPARE(input.size(), 1);
 }
 
-void TestPrefWinController::aChosenPasswordIsStoredOnlyOnOk()
+void TestPrefWinController::aConfirmedPasswordIsStoredAtOnce_data()
 {
+    QTest::addColumn<QString>("oldPassword");
+    QTest::addColumn<QString>("newPassword");
+    QTest::addColumn<int>("closedBy");
+    QTest::newRow("set, then Cancel") << QString() << u"abc"_s << 0;
+    QTest::newRow("set, then Escape") << QString() << u"abc"_s << 1;
+    QTest::newRow("removed, then closed") << u"abc"_s << QString() << 2;
+}
+
+void TestPrefWinController::aConfirmedPasswordIsStoredAtOnce()
+{
+    QFETCH(QString, oldPassword);
+    QFETCH(QString, newPassword);
+    QFETCH(int, closedBy);
+    QVERIFY(PasswordLock::savePasswordToDefault(oldPassword));
+    m_window = std::make_unique<PrefWinController>(m_controller.get());
+    m_window->show();
+
     QTest::mouseClick(child<QPushButton>(m_window.get(), u"setPassword"_s), Qt::LeftButton);
     auto *panel = child<SetPassPanelController>(m_window.get());
-    child<QLineEdit>(panel, u"newPassTF"_s)->setText(u"abc"_s);
-    child<QLineEdit>(panel, u"newPassTF2"_s)->setText(u"abc"_s);
+    child<QLineEdit>(panel, u"oldPassTF"_s)->setText(oldPassword);
+    child<QLineEdit>(panel, u"newPassTF"_s)->setText(newPassword);
+    child<QLineEdit>(panel, u"newPassTF2"_s)->setText(newPassword);
     panel->accept();
-    QVERIFY(Settings().passwordHash().isEmpty());
-    pressOk();
-    QVERIFY(PasswordLock::matches(u"abc"_s, Settings().passwordHash()));
+    QVERIFY(PasswordLock::matches(newPassword, Settings().passwordHash()));
+    QCOMPARE(child<QLabel>(m_window.get(), u"passwordState"_s)->text(),
+             newPassword.isEmpty() ? u"No password is asked for at start."_s
+                                   : u"A password is asked for at start."_s);
+
+    if (closedBy == 0)
+        child<QDialogButtonBox>(m_window.get())->button(QDialogButtonBox::Cancel)->click();
+    else if (closedBy == 1)
+        QTest::keyClick(m_window.get(), Qt::Key_Escape);
+    else
+        m_window->close();
+    QVERIFY(!m_window->isVisible());
+    QVERIFY(PasswordLock::matches(newPassword, Settings().passwordHash()));
 }
 
 QTEST_MAIN(TestPrefWinController)

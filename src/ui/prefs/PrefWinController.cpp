@@ -318,7 +318,11 @@ void PrefWinController::readSettings()
                                                                   : QStringLiteral("–"));
     m_lastDate->setValue(keepDay ? 0 : day);
     m_lastDate->setEnabled(m_setLastDate->isChecked());
-    m_newPasswordHash.reset();
+    showPasswordState();
+}
+
+void PrefWinController::showPasswordState()
+{
     m_passwordState->setText(PasswordLock::passwordFromDefault().isEmpty()
                                  ? tr("No password is asked for at start.")
                                  : tr("A password is asked for at start."));
@@ -422,16 +426,10 @@ bool PrefWinController::changeDataFolder(const QString &path)
 
 void PrefWinController::setPassword()
 {
+    // The panel stores the password itself: OK or Cancel here changes
+    // nothing about it.
     auto *panel = new SetPassPanelController(this);
-    panel->setMode(SetPassPanelController::Mode::HandOver);
-    if (m_newPasswordHash)
-        panel->setPassword(*m_newPasswordHash);
-    connect(panel, &SetPassPanelController::passwordChosen, this, [this](const QString &hash) {
-        m_newPasswordHash = hash;
-        m_passwordState->setText(hash.isEmpty()
-                                     ? tr("The password is removed when you press OK.")
-                                     : tr("The new password is set when you press OK."));
-    });
+    connect(panel, &QDialog::accepted, this, &PrefWinController::showPasswordState);
     panel->open();
 }
 
@@ -499,8 +497,6 @@ void PrefWinController::writeSettings()
     const int day = m_lastDate->value() > 0 ? m_lastDate->value() : dayWas;
     if (m_lastDate->value() > 0)
         settings.setMonthLastDate(day);
-    if (m_newPasswordHash)
-        settings.setPasswordHash(*m_newPasswordHash);
     settings.sync();
     if (closingDayWas != m_setLastDate->isChecked() || dayWas != day)
         emit Notifications::instance()->lastDateHasChanged();
