@@ -915,14 +915,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>The new data folder needs attention.</translation>
         </message>
         <message>
-            <source>The password is removed when you press OK.</source>
-            <translation>The password is removed when you press OK.</translation>
-        </message>
-        <message>
-            <source>The new password is set when you press OK.</source>
-            <translation>The new password is set when you press OK.</translation>
-        </message>
-        <message>
             <source>Renumbering the stored entries…</source>
             <translation>Renumbering the stored entries…</translation>
         </message>
@@ -981,6 +973,10 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>&amp;Repeat new password:</source>
             <translation>&amp;Repeat new password:</translation>
+        </message>
+        <message>
+            <source>The password is saved as soon as you press OK here, even if you then cancel the preferences. Leave the new password empty to remove it.</source>
+            <translation>The password is saved as soon as you press OK here, even if you then cancel the preferences. Leave the new password empty to remove it.</translation>
         </message>
         <message>
             <source>Passwords cannot be encrypted on this system.</source>

@@ -913,14 +913,6 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
             <translation>新しいデータフォルダに確認が必要です。</translation>
         </message>
         <message>
-            <source>The password is removed when you press OK.</source>
-            <translation>OK を押すとパスワードが解除されます。</translation>
-        </message>
-        <message>
-            <source>The new password is set when you press OK.</source>
-            <translation>OK を押すと新しいパスワードが設定されます。</translation>
-        </message>
-        <message>
             <source>Renumbering the stored entries…</source>
             <translation>保存されたデータの番号を付け直しています…</translation>
         </message>
@@ -979,6 +971,10 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>&amp;Repeat new password:</source>
             <translation>新しいパスワードの確認(&amp;R):</translation>
+        </message>
+        <message>
+            <source>The password is saved as soon as you press OK here, even if you then cancel the preferences. Leave the new password empty to remove it.</source>
+            <translation>ここで OK を押すとすぐにパスワードが保存され、その後で環境設定をキャンセルしても元に戻りません。パスワードを解除するには、新しいパスワードを空のままにしてください。</translation>
         </message>
         <message>
             <source>Passwords cannot be encrypted on this system.</source>

@@ -291,6 +291,11 @@ void TestGraphWindow::selectionHighlightsAndDoubleClickAsksForTheList()
     QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, table->visualRect(rent).center());
     QCOMPARE(requested.count(), 2);
     QCOMPARE(requested.at(1), (QVariantList{1, 2008, 1}));
+
+    // New lists leave no row selected, and so no category highlighted.
+    emit Notifications::instance()->listPreferenceHasUpDated();
+    QVERIFY(table->selectionModel()->selectedRows().isEmpty());
+    QCOMPARE(window->currentGraphView()->selectedNumber(), -1);
 }
 
 void TestGraphWindow::chartsFollowChangesOfTheMonths()

@@ -10,7 +10,9 @@
 #include "ledger/KController.h"
 #include "ledger/RescueFolder.h"
 #include "model/MonthDataList.h"
+#include "model/Notifications.h"
 #include "password/ConfirmPassPanelController.h"
+#include "password/SetPassPanelController.h"
 #include "security/PasswordLock.h"
 #include "settings/Settings.h"
 #include "storage/DurableFile.h"
@@ -23,7 +25,9 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -99,6 +103,7 @@ private slots:
 
     void withoutPasswordStartsAtOnce();
     void withPasswordNothingStartsUntilConfirmed();
+    void aPasswordSetInCancelledPreferencesLocksTheNextStart();
     void firstStartSetsUpTheDataFolder();
     void openFileTakesOnlyMonthFiles();
     void storeProblemsAreToldOncePerFile();
@@ -168,6 +173,29 @@ void TestKAppController::withPasswordNothingStartsUntilConfirmed()
     QVERIFY(controller.validateMenuItem(&probe));
     QVERIFY(QFileInfo::exists(listFile));
     QCOMPARE(Settings().version(), 1);
+}
+
+void TestKAppController::aPasswordSetInCancelledPreferencesLocksTheNextStart()
+{
+    {
+        KAppController controller;
+        controller.confirmPassword();
+        controller.showPrefWindow();
+        auto *preferences = visibleTopLevels<PrefWinController>().constFirst();
+        preferences->findChild<QPushButton *>(u"setPassword"_s)->click();
+        auto *panel = preferences->findChild<SetPassPanelController *>();
+        for (const QString &name : {u"newPassTF"_s, u"newPassTF2"_s})
+            QTest::keyClicks(panel->findChild<QLineEdit *>(name), u"secret"_s);
+        QTest::keyClick(panel->findChild<QLineEdit *>(u"newPassTF2"_s), Qt::Key_Return);
+        QTest::keyClick(preferences, Qt::Key_Escape);
+        QVERIFY(!preferences->isVisible());
+    }
+    closeTopLevels();
+
+    KAppController next;
+    next.confirmPassword();
+    QVERIFY(!next.running());
+    QCOMPARE(visibleTopLevels<ConfirmPassPanelController>().size(), 1);
 }
 
 void TestKAppController::firstStartSetsUpTheDataFolder()
@@ -258,6 +286,13 @@ void TestKAppController::firstStartOpensPreferencesAndInput()
     QCOMPARE(preferences.size(), 1);
     QVERIFY(preferences.first()->firstSetting());
     QCOMPARE(visibleTopLevels<InputWinController>().size(), 1);
+
+    // OK with the closing day untouched stores no day and announces none.
+    QSignalSpy lastDate(Notifications::instance(), &Notifications::lastDateHasChanged);
+    preferences.first()->accept();
+    QVERIFY(!preferences.first()->isVisible());
+    QVERIFY(!QSettings(u"Penwick"_s, u"Penwick"_s).contains(u"monthLastDate"_s));
+    QCOMPARE(lastDate.size(), 0);
 }
 
 void TestKAppController::openedMonthFileShowsInTheListWindow()

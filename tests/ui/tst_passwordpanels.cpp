@@ -19,9 +19,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Hashes of "abc" and "xyzzy", as earlier versions stored them.
+// The hash of "abc", as earlier versions stored it.
 const QString AbcHash = u"pWNtzVs0HB6cU"_s;
-const QString XyzzyHash = u"pWRymE7YbxVUY"_s;
 
 QSettings settings()
 {
@@ -96,7 +95,6 @@ private slots:
 
     void setChangeAndRemoveThePassword();
     void wrongOldOrMismatchedNewIsRefused();
-    void handOverModeSavesNothing();
 
     void confirmRetriesUntilRight();
     void confirmCancels_data();
@@ -167,31 +165,6 @@ void TestPasswordPanels::wrongOldOrMismatchedNewIsRefused()
     submitSetPanel(panel, u"abc"_s, u"xyzzy"_s, u"xyzzy"_s);
     QVERIFY(!panel->isVisible());
     QVERIFY(storedIs(u"xyzzy"_s));
-}
-
-void TestPasswordPanels::handOverModeSavesNothing()
-{
-    settings().setValue(SettingsKeys::PasswordHash, XyzzyHash);
-    SetPassPanelController *panel = openSetPanel();
-    panel->setMode(SetPassPanelController::Mode::HandOver);
-    // The given hash, not the stored one, is what the old password must match.
-    panel->setPassword(AbcHash);
-    QSignalSpy chosen(panel, &SetPassPanelController::passwordChosen);
-    // The hash comes after the dialog has ended.
-    connect(panel, &SetPassPanelController::passwordChosen, this,
-            [panel] { QVERIFY(!panel->isVisible()); });
-
-    submitSetPanel(panel, u"abc"_s, u"pass"_s, u"pass"_s);
-    QCOMPARE(chosen.count(), 1);
-    QVERIFY(PasswordLock::matches(u"pass"_s, chosen.at(0).at(0).toString()));
-    QCOMPARE(storedHash(), XyzzyHash);
-
-    panel = openSetPanel();
-    panel->setMode(SetPassPanelController::Mode::HandOver);
-    QSignalSpy chosenOnCancel(panel, &SetPassPanelController::passwordChosen);
-    button(panel, QDialogButtonBox::Cancel)->click();
-    QVERIFY(!panel->isVisible());
-    QCOMPARE(chosenOnCancel.count(), 0);
 }
 
 void TestPasswordPanels::confirmRetriesUntilRight()

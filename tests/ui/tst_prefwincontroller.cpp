@@ -11,6 +11,7 @@
 #include "prefs/PrefWinController.h"
 #include "security/PasswordLock.h"
 #include "settings/Settings.h"
+#include "settings/SettingsKeys.h"
 #include "storage/ColorArchive.h"
 #include "storage/ListFile.h"
 #include "storage/MonthFile.h"
@@ -19,10 +20,13 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTableView>
@@ -87,11 +91,14 @@ private slots:
     void duplicateNamesAreRefused();
     void cancelDropsEveryEdit();
     void okWritesTheSettingsAndAnnouncesThem();
+    void aStoredClosingDayIsKeptUntilChanged_data();
+    void aStoredClosingDayIsKeptUntilChanged();
     void aRefusedConversionKeepsTheWindowOpen();
     void missingColoursAreWrittenBlack();
     void changingTheDataFolderSavesFirst();
     void closingTheFirstSettingAsksForTheInputWindow();
-    void aChosenPasswordIsStoredOnlyOnOk();
+    void aConfirmedPasswordIsStoredAtOnce_data();
+    void aConfirmedPasswordIsStoredAtOnce();
 
 private:
     ListEditorModel *categories() const;
@@ -219,20 +226,22 @@ void TestPrefWinController::duplicateNamesAreRefused()
     QVERIFY(!model->setData(model->index(0, 0), u"Rent"_s));
     QVERIFY(!model->setData(model->index(0, 0), u"Income"_s));
     QVERIFY(!model->setData(model->index(0, 0), u""_s));
-    QCOMPARE(refused.size(), 3);
-    // Leaving the editor with the name as it was is not worth a beep.
+    // Its own name too: ending the edit without a change beeps as well.
     QVERIFY(!model->setData(model->index(0, 0), u"Food"_s));
-    QCOMPARE(refused.size(), 3);
+    QCOMPARE(refused.size(), 4);
     QVERIFY(model->setData(model->index(0, 0), u"Groceries"_s));
     QCOMPARE(model->editor().names().constFirst(), u"Groceries"_s);
 
-    // Two new items keep their names apart only once renamed.
+    // Two new items keep their names apart only once renamed. The first one's
+    // name, left as offered, is refused as well when the second is added
+    // (the window lets that pass without a beep).
     auto *add = child<QPushButton>(categoryTable()->parentWidget(), u"addItem"_s);
     QTest::mouseClick(add, Qt::LeftButton);
     QTest::mouseClick(add, Qt::LeftButton);
     QCOMPARE(model->editor().names().mid(3), (QStringList{u"Untitled"_s, u"Untitled"_s}));
+    QCOMPARE(refused.size(), 5);
     QVERIFY(!model->setData(model->index(4, 0), u"Groceries"_s));
-    QCOMPARE(refused.size(), 4);
+    QCOMPARE(refused.size(), 6);
 }
 
 void TestPrefWinController::cancelDropsEveryEdit()
@@ -285,6 +294,48 @@ void TestPrefWinController::okWritesTheSettingsAndAnnouncesThem()
     m_window->show();
     QCOMPARE(child<QSpinBox>(m_window.get(), u"lastDateTF"_s)->value(), 25);
     pressOk();
+    QCOMPARE(lastDate.size(), 1);
+}
+
+void TestPrefWinController::aStoredClosingDayIsKeptUntilChanged_data()
+{
+    QTest::addColumn<QVariant>("stored"); // none: no key at all
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<int>("afterStepUp");
+    QTest::newRow("none") << QVariant() << u"–"_s << 1;
+    QTest::newRow("0") << QVariant(0) << u"0"_s << 1;
+    QTest::newRow("above 31") << QVariant(45) << u"45"_s << 1;
+    QTest::newRow("negative") << QVariant(-3) << QLocale().toString(-3) << 1;
+    QTest::newRow("a day") << QVariant(25) << u"25"_s << 26;
+}
+
+void TestPrefWinController::aStoredClosingDayIsKeptUntilChanged()
+{
+    QFETCH(QVariant, stored);
+    QFETCH(QString, shown);
+    QFETCH(int, afterStepUp);
+    QSettings raw(u"Penwick"_s, u"Penwick"_s);
+    raw.setValue(SettingsKeys::ChangeMonthLastDate, true);
+    if (stored.isValid())
+        raw.setValue(SettingsKeys::MonthLastDate, stored);
+    else
+        raw.remove(SettingsKeys::MonthLastDate);
+    m_window = std::make_unique<PrefWinController>(m_controller.get());
+    m_window->show();
+    auto *day = child<QSpinBox>(m_window.get(), u"lastDateTF"_s);
+    QCOMPARE(day->text(), shown);
+
+    QSignalSpy lastDate(Notifications::instance(), &Notifications::lastDateHasChanged);
+    pressOk();
+    QCOMPARE(raw.contains(SettingsKeys::MonthLastDate), stored.isValid());
+    QCOMPARE(raw.value(SettingsKeys::MonthLastDate).toInt(), stored.toInt());
+    QCOMPARE(lastDate.size(), 0);
+
+    // A day the user picks replaces it.
+    m_window->show();
+    day->stepUp();
+    pressOk();
+    QCOMPARE(raw.value(SettingsKeys::MonthLastDate).toInt(), afterStepUp);
     QCOMPARE(lastDate.size(), 1);
 }
 
@@ -361,16 +412,44 @@ void TestPrefWinController::closingTheFirstSettingAsksForTheInputWindow()
     QCOMPARE(input.size(), 1);
 }
 
-void TestPrefWinController::aChosenPasswordIsStoredOnlyOnOk()
+void TestPrefWinController::aConfirmedPasswordIsStoredAtOnce_data()
 {
+    QTest::addColumn<QString>("oldPassword");
+    QTest::addColumn<QString>("newPassword");
+    QTest::addColumn<int>("closedBy");
+    QTest::newRow("set, then Cancel") << QString() << u"abc"_s << 0;
+    QTest::newRow("set, then Escape") << QString() << u"abc"_s << 1;
+    QTest::newRow("removed, then closed") << u"abc"_s << QString() << 2;
+}
+
+void TestPrefWinController::aConfirmedPasswordIsStoredAtOnce()
+{
+    QFETCH(QString, oldPassword);
+    QFETCH(QString, newPassword);
+    QFETCH(int, closedBy);
+    QVERIFY(PasswordLock::savePasswordToDefault(oldPassword));
+    m_window = std::make_unique<PrefWinController>(m_controller.get());
+    m_window->show();
+
     QTest::mouseClick(child<QPushButton>(m_window.get(), u"setPassword"_s), Qt::LeftButton);
     auto *panel = child<SetPassPanelController>(m_window.get());
-    child<QLineEdit>(panel, u"newPassTF"_s)->setText(u"abc"_s);
-    child<QLineEdit>(panel, u"newPassTF2"_s)->setText(u"abc"_s);
+    child<QLineEdit>(panel, u"oldPassTF"_s)->setText(oldPassword);
+    child<QLineEdit>(panel, u"newPassTF"_s)->setText(newPassword);
+    child<QLineEdit>(panel, u"newPassTF2"_s)->setText(newPassword);
     panel->accept();
-    QVERIFY(Settings().passwordHash().isEmpty());
-    pressOk();
-    QVERIFY(PasswordLock::matches(u"abc"_s, Settings().passwordHash()));
+    QVERIFY(PasswordLock::matches(newPassword, Settings().passwordHash()));
+    QCOMPARE(child<QLabel>(m_window.get(), u"passwordState"_s)->text(),
+             newPassword.isEmpty() ? u"No password is asked for at start."_s
+                                   : u"A password is asked for at start."_s);
+
+    if (closedBy == 0)
+        child<QDialogButtonBox>(m_window.get())->button(QDialogButtonBox::Cancel)->click();
+    else if (closedBy == 1)
+        QTest::keyClick(m_window.get(), Qt::Key_Escape);
+    else
+        m_window->close();
+    QVERIFY(!m_window->isVisible());
+    QVERIFY(PasswordLock::matches(newPassword, Settings().passwordHash()));
 }
 
 QTEST_MAIN(TestPrefWinController)

@@ -54,6 +54,11 @@ int Settings::monthLastDate() const
     return m_settings->value(SettingsKeys::MonthLastDate, 0).toInt();
 }
 
+bool Settings::hasMonthLastDate() const
+{
+    return m_settings->contains(SettingsKeys::MonthLastDate);
+}
+
 void Settings::setMonthLastDate(int day)
 {
     m_settings->setValue(SettingsKeys::MonthLastDate, day);

@@ -36,7 +36,9 @@ public:
     // Months that close on a chosen day instead of the calendar's last day.
     bool changeMonthLastDate() const;
     void setChangeMonthLastDate(bool on);
+    // The closing day as stored, in or out of 1 to 31; 0 when none is.
     int monthLastDate() const;
+    bool hasMonthLastDate() const;
     void setMonthLastDate(int day);
 
     // The one-way hash of the password that locks the account book; empty

@@ -64,6 +64,9 @@ GraphWinController::GraphWinController(KController *controller, QWidget *parent)
                                                           QHeaderView::ResizeToContents);
     connect(m_listTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &GraphWinController::handleTableClick);
+    // New lists drop the selection without a word; the chart must not keep
+    // highlighting a row that is gone, or is now another category.
+    connect(m_model, &QAbstractItemModel::modelReset, this, &GraphWinController::handleTableClick);
     connect(m_listTable, &QTableView::doubleClicked, this,
             &GraphWinController::handleTableDoubleClick);
 

@@ -12,10 +12,15 @@
 PasswordPanel::PasswordPanel(QWidget *parent)
     : QDialog(parent)
     , m_message(new QLabel(this))
+    , m_note(new QLabel(this))
     , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
 {
     m_message->setObjectName(QStringLiteral("passMessageTF"));
     m_message->setTextFormat(Qt::PlainText);
+    m_note->setObjectName(QStringLiteral("passNoteTF"));
+    m_note->setTextFormat(Qt::PlainText);
+    m_note->setWordWrap(true);
+    m_note->hide();
 
     // Return in any field presses OK.
     m_buttons->button(QDialogButtonBox::Ok)->setDefault(true);
@@ -26,12 +31,8 @@ PasswordPanel::PasswordPanel(QWidget *parent)
     layout->addWidget(m_message);
     m_form = new QFormLayout;
     layout->addLayout(m_form);
+    layout->addWidget(m_note);
     layout->addWidget(m_buttons);
-}
-
-void PasswordPanel::setPassword(const QString &hash)
-{
-    m_password = hash;
 }
 
 QLineEdit *PasswordPanel::addPasswordField(const QString &label, const QString &objectName)
@@ -57,13 +58,18 @@ QLineEdit *PasswordPanel::addPasswordField(const QString &label, const QString &
 bool PasswordPanel::matchesPassword(const QLineEdit *field) const
 {
     // The stored password is upgraded to the current hash when it matches.
-    return m_password ? PasswordLock::matches(field->text(), *m_password)
-                      : PasswordLock::unlock(field->text());
+    return PasswordLock::unlock(field->text());
 }
 
 void PasswordPanel::showMessage(const QString &text)
 {
     m_message->setText(text);
+}
+
+void PasswordPanel::setNote(const QString &text)
+{
+    m_note->setText(text);
+    m_note->show();
 }
 
 void PasswordPanel::refuse(QLineEdit *field, const QString &message)

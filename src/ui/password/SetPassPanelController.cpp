@@ -13,11 +13,8 @@ SetPassPanelController::SetPassPanelController(QWidget *parent)
     m_oldField = addPasswordField(tr("&Old password:"), QStringLiteral("oldPassTF"));
     m_newField = addPasswordField(tr("&New password:"), QStringLiteral("newPassTF"));
     m_repeatField = addPasswordField(tr("&Repeat new password:"), QStringLiteral("newPassTF2"));
-}
-
-void SetPassPanelController::setMode(Mode mode)
-{
-    m_mode = mode;
+    setNote(tr("The password is saved as soon as you press OK here, even if you then cancel "
+               "the preferences. Leave the new password empty to remove it."));
 }
 
 void SetPassPanelController::accept()
@@ -31,18 +28,10 @@ void SetPassPanelController::accept()
         refuse(m_newField, QCoreApplication::translate("PasswordPanels", "New password is wrong"));
         return;
     }
-    const std::optional<QString> hash = PasswordLock::ppCrypt(newPassword);
-    if (!hash) {
+    if (!PasswordLock::savePasswordToDefault(newPassword)) {
         refuse(m_newField, tr("Passwords cannot be encrypted on this system."));
         return;
     }
-
-    // Close first, so that whoever gets the result may open another dialog
-    // on the same window. Deletion waits for the event loop: this is still
-    // alive below.
+    // Stored first: whoever hears accepted() finds the new password in place.
     QDialog::accept();
-    if (m_mode == Mode::SaveToSettings)
-        PasswordLock::savePasswordToDefault(newPassword); // cannot fail: it hashed above
-    else
-        emit passwordChosen(*hash);
 }

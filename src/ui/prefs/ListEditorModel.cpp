@@ -142,9 +142,7 @@ bool ListEditorModel::setData(const QModelIndex &index, const QVariant &value, i
         || !value.isValid())
         return false;
     const QString name = value.toString();
-    // Leaving the editor without a change is no attempt at a duplicate.
-    if (name == m_editor.name(index.row()))
-        return false;
+    // The item's own name is refused like any other name the list holds.
     if (!m_editor.renameItem(index.row(), name)) {
         emit nameRefused(index.row(), name);
         return false;

@@ -53,8 +53,8 @@ public:
                   const QModelIndex &destinationParent, int destinationChild) override;
 
 signals:
-    // A new name was refused: empty, or already in the list. Keeping the
-    // item's own name is not refused, only ignored.
+    // A new name was refused: empty, or already in the list, the item's own
+    // name included (an edit ended without a change).
     void nameRefused(int row, const QString &name);
 
 private:

@@ -11,6 +11,7 @@
 #include "storage/ColorArchive.h"
 #include "storage/ListFile.h"
 
+#include <QAbstractItemDelegate>
 #include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
@@ -25,6 +26,7 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -97,9 +99,6 @@ PrefWinController::PrefWinController(KController *controller, QWidget *parent)
     layout->addWidget(m_tabs);
     layout->addWidget(buttons);
 
-    connect(m_categoryModel, &ListEditorModel::nameRefused, this, &PrefWinController::beep);
-    connect(m_paywayModel, &ListEditorModel::nameRefused, this, &PrefWinController::beep);
-
     readListFromDefault();
     readSettings();
     resize(480, 460);
@@ -132,6 +131,16 @@ QWidget *PrefWinController::createListTab(ListEditorModel *model, const QString 
     table->horizontalHeader()->setHighlightSections(false);
     table->horizontalHeader()->setSectionResizeMode(ListEditorModel::NameColumn,
                                                     QHeaderView::Stretch);
+    // A refused name beeps, the item's own too, except the name a new item
+    // was offered with: keeping that is no mistake.
+    connect(model, &ListEditorModel::nameRefused, this,
+            [this, model](int row, const QString &name) {
+                if (model->index(row, ListEditorModel::NameColumn) != m_offeredName
+                    || name != model->editor().name(row))
+                    beep();
+            });
+    connect(table->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+            [this] { m_offeredName = QPersistentModelIndex(); });
     if (categories) {
         table->horizontalHeader()->setSectionResizeMode(ListEditorModel::ColorColumn,
                                                         QHeaderView::ResizeToContents);
@@ -219,6 +228,11 @@ QWidget *PrefWinController::createGeneralTab()
     m_lastDate->setRange(1, 31);
     m_lastDate->setToolTip(tr("Entries after this day count towards the next month."));
     connect(m_setLastDate, &QCheckBox::toggled, m_lastDate, &QSpinBox::setEnabled);
+    // Once the user picks a day, a stored one outside the range is gone.
+    connect(m_lastDate, &QSpinBox::valueChanged, this, [this](int day) {
+        if (day > 0)
+            m_lastDate->setMinimum(1);
+    });
     auto *closingRow = new QHBoxLayout;
     closingRow->addWidget(m_setLastDate);
     closingRow->addWidget(m_lastDate);
@@ -293,9 +307,22 @@ void PrefWinController::readSettings()
     const int item = m_returnInput->findData(returnInput == 1 ? int(ReturnPressesOK) : returnInput);
     m_returnInput->setCurrentIndex(qMax(0, item));
     m_setLastDate->setChecked(settings.changeMonthLastDate());
-    m_lastDate->setValue(settings.monthLastDate());
+    // A stored day the box cannot offer (none, 0, or outside 1 to 31) shows
+    // as it is, in place of 0 below the range, and stays stored as it is
+    // until the user picks a day.
+    const int day = settings.monthLastDate();
+    const bool keepDay = !settings.hasMonthLastDate() || day < 1 || day > 31;
+    m_lastDate->setMinimum(keepDay ? 0 : 1);
+    m_lastDate->setSpecialValueText(!keepDay ? QString()
+                                    : settings.hasMonthLastDate() ? QLocale().toString(day)
+                                                                  : QStringLiteral("–"));
+    m_lastDate->setValue(keepDay ? 0 : day);
     m_lastDate->setEnabled(m_setLastDate->isChecked());
-    m_newPasswordHash.reset();
+    showPasswordState();
+}
+
+void PrefWinController::showPasswordState()
+{
     m_passwordState->setText(PasswordLock::passwordFromDefault().isEmpty()
                                  ? tr("No password is asked for at start.")
                                  : tr("A password is asked for at start."));
@@ -318,6 +345,7 @@ void PrefWinController::addItem(ListEditorModel *model, QTableView *view)
     const int row = model->addItem(tr("Untitled"), Qt::black);
     const QModelIndex name = model->index(row, ListEditorModel::NameColumn);
     view->setCurrentIndex(name);
+    m_offeredName = name;
     view->edit(name);
 }
 
@@ -398,16 +426,10 @@ bool PrefWinController::changeDataFolder(const QString &path)
 
 void PrefWinController::setPassword()
 {
+    // The panel stores the password itself: OK or Cancel here changes
+    // nothing about it.
     auto *panel = new SetPassPanelController(this);
-    panel->setMode(SetPassPanelController::Mode::HandOver);
-    if (m_newPasswordHash)
-        panel->setPassword(*m_newPasswordHash);
-    connect(panel, &SetPassPanelController::passwordChosen, this, [this](const QString &hash) {
-        m_newPasswordHash = hash;
-        m_passwordState->setText(hash.isEmpty()
-                                     ? tr("The password is removed when you press OK.")
-                                     : tr("The new password is set when you press OK."));
-    });
+    connect(panel, &QDialog::accepted, this, &PrefWinController::showPasswordState);
     panel->open();
 }
 
@@ -471,11 +493,12 @@ void PrefWinController::writeSettings()
     const bool closingDayWas = settings.changeMonthLastDate();
     const int dayWas = settings.monthLastDate();
     settings.setChangeMonthLastDate(m_setLastDate->isChecked());
-    settings.setMonthLastDate(m_lastDate->value());
-    if (m_newPasswordHash)
-        settings.setPasswordHash(*m_newPasswordHash);
+    // 0 stands for the stored day, kept as it is.
+    const int day = m_lastDate->value() > 0 ? m_lastDate->value() : dayWas;
+    if (m_lastDate->value() > 0)
+        settings.setMonthLastDate(day);
     settings.sync();
-    if (closingDayWas != m_setLastDate->isChecked() || dayWas != m_lastDate->value())
+    if (closingDayWas != m_setLastDate->isChecked() || dayWas != day)
         emit Notifications::instance()->lastDateHasChanged();
 }
 

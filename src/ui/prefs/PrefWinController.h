@@ -1,8 +1,7 @@
 #pragma once
 
 #include <QDialog>
-
-#include <optional>
+#include <QPersistentModelIndex>
 
 class KController;
 class ListEditorModel;
@@ -20,9 +19,10 @@ class QTableView;
 //
 // Nothing is stored until OK, which renumbers the stored entries where
 // items were merged or moved, writes the lists and settings, and announces
-// them; Cancel drops every edit. The data folder is the exception: a new
-// folder takes effect as soon as it is chosen. The window never opens
-// another window itself; it asks with signals.
+// them; Cancel drops every edit. The data folder and the password are the
+// exceptions: a new folder takes effect as soon as it is chosen, a password
+// as soon as its own dialog is confirmed. The window never opens another
+// window itself; it asks with signals.
 class PrefWinController : public QDialog
 {
     Q_OBJECT
@@ -66,6 +66,7 @@ private:
     void chooseColor(int row);
     void selectFolder();
     void setPassword();
+    void showPasswordState();
     void showDataFolder(const QString &path);
     void showProblem(const QString &text, const QString &details);
     void beep();
@@ -84,7 +85,6 @@ private:
     QSpinBox *m_lastDate;
     QComboBox *m_returnInput;
     QLabel *m_passwordState;
-    // The hash of a password chosen in this session, saved on OK; empty for
-    // "no password".
-    std::optional<QString> m_newPasswordHash;
+    // The name of an item just added, open for editing as offered.
+    QPersistentModelIndex m_offeredName;
 };
