@@ -1,23 +1,13 @@
 # Fails when any object file of penwick_core included a QtGui or QtWidgets
-# header. Reads the dependency records the compiler left for the build tool:
-# Ninja keeps them in its own log, the Makefile generator in .o.d files.
-if(EXISTS "${BUILD_DIR}/build.ninja")
-  find_program(NINJA ninja REQUIRED)
-  execute_process(COMMAND ${NINJA} -C "${BUILD_DIR}" -t deps
-                  OUTPUT_VARIABLE deps RESULT_VARIABLE rc)
-  if(NOT rc EQUAL 0)
-    message(FATAL_ERROR "ninja -t deps failed")
+# header.
+include(${CMAKE_CURRENT_LIST_DIR}/DependencyRecords.cmake)
+read_dependency_records("${BUILD_DIR}" all_records)
+set(records "")
+foreach(record IN LISTS all_records)
+  if(record MATCHES "^[^\n:]*/penwick_core\\.dir/")
+    string(APPEND records "${record}\n")
   endif()
-  # Keep only the records of the core's objects.
-  string(REGEX MATCHALL "src/core/CMakeFiles/penwick_core\\.dir/[^\n]*:[^\n]*(\n    [^\n]*)*" records "${deps}")
-else()
-  file(GLOB_RECURSE depfiles "${BUILD_DIR}/src/core/CMakeFiles/penwick_core.dir/*.o.d")
-  set(records "")
-  foreach(f IN LISTS depfiles)
-    file(READ "${f}" content)
-    list(APPEND records "${content}")
-  endforeach()
-endif()
+endforeach()
 
 if(records STREQUAL "")
   message(FATAL_ERROR "no dependency records of penwick_core found under ${BUILD_DIR}")

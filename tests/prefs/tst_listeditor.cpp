@@ -124,13 +124,14 @@ void TestListEditor::refusedEditsChangeNothing()
 
 void TestListEditor::coloursTravelWithTheirItems()
 {
-    ListEditor editor({u"A"_s, u"B"_s, u"C"_s}, {"red", "green", "blue"});
-    editor.addItem(u"Untitled"_s, "black");
+    const RgbaColor red{1, 0, 0}, green{0, 1, 0}, blue{0, 0, 1}, black{};
+    ListEditor editor({u"A"_s, u"B"_s, u"C"_s}, {red, green, blue});
+    editor.addItem(u"Untitled"_s, black);
     editor.moveItem(2, 0);
     QVERIFY(editor.mergeItem(1, 3)); // A into Untitled
-    editor.setColor(0, "gray");
+    editor.setColor(0, RgbaColor::gray());
     QCOMPARE(editor.names(), (QStringList{u"C"_s, u"B"_s, u"Untitled"_s}));
-    QCOMPARE(editor.colors(), (QList<QByteArray>{"gray", "green", "black"}));
+    QCOMPARE(editor.colors(), (QList<RgbaColor>{RgbaColor::gray(), green, black}));
     QVERIFY(editor.isModified());
 }
 

@@ -15,6 +15,7 @@
 #include "storage/ColorArchive.h"
 #include "storage/ListFile.h"
 #include "storage/MonthFile.h"
+#include "widgets/RgbaQColor.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -169,7 +170,7 @@ void TestPrefWinController::movesByDraggingRenumberTheEntries()
     drag.reset(model->mimeData({model->index(1, 0)}));
     QVERIFY(model->dropMimeData(drag.get(), Qt::MoveAction, -1, -1, {}));
     QCOMPARE(model->editor().names(), (QStringList{u"Rent"_s, u"Fun"_s, u"Food"_s}));
-    QCOMPARE(model->color(0), ListEditorModel::colorFromArchive(ColorArchive::initialColors(4)[1]));
+    QCOMPARE(model->color(0), toQColor(*ColorArchive::decode(ColorArchive::initialColors(4)[1])));
 
     QSignalSpy announced(Notifications::instance(), &Notifications::listPreferenceHasUpDated);
     pressOk();
@@ -364,7 +365,7 @@ void TestPrefWinController::missingColoursAreWrittenBlack()
     const QVariantList colors = ListFile::preferenceDataListForKey(m_folder, ListFile::ColorList);
     QCOMPARE(colors.size(), kCategories.size());
     QCOMPARE(colors.at(0).toByteArray(), red);
-    QCOMPARE(ListEditorModel::colorFromArchive(colors.at(2).toByteArray()), QColor(Qt::black));
+    QCOMPARE(ColorArchive::decode(colors.at(2).toByteArray()), RgbaColor());
 }
 
 void TestPrefWinController::changingTheDataFolderSavesFirst()

@@ -7,15 +7,16 @@
 #include "model/MonthDataList.h"
 #include "model/Notifications.h"
 #include "model/YearDataList.h"
-#include "storage/ListFile.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
+#include "storage/ColorArchive.h"
+#include "storage/DurableFile.h"
+#include "storage/ListFile.h"
 #include "storage/MonthFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include "storage/DurableFile.h"
 #include <QtDebug>
 
 #include <algorithm>
@@ -612,6 +613,21 @@ void KController::readListPreference()
     };
     m_categoryList = names(ListFile::CategoryList);
     m_paywayList = names(ListFile::PaywayList);
+}
+
+StoredLists KController::storedLists()
+{
+    StoredLists stored;
+    const std::optional<QVariantMap> lists = ListFile::read(dataFolderPath());
+    if (!lists)
+        return stored;
+    for (const QVariant &name : lists->value(ListFile::CategoryList).toList())
+        stored.categories.append(name.toString());
+    for (const QVariant &archive : lists->value(ListFile::ColorList).toList())
+        stored.colors.append(ColorArchive::decode(archive.toByteArray()).value_or(RgbaColor::gray()));
+    for (const QVariant &name : lists->value(ListFile::PaywayList).toList())
+        stored.payways.append(name.toString());
+    return stored;
 }
 
 void KController::scheduleSave(DataList *list)

@@ -115,6 +115,10 @@ public:
     // Reloads the category and payway names from the data folder's list file
     // (made with the initial lists when the folder has none).
     void readListPreference();
+    // The lists as the list file holds them now, read anew, with the
+    // colours as plain values; a colour that cannot be read comes as gray.
+    // Empty when the file cannot be read.
+    StoredLists storedLists();
     QStringList categoryList() const override { return m_categoryList; }
     QStringList paywayList() const override { return m_paywayList; }
 

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
-ListEditor::ListEditor(const QStringList &names, const QList<QByteArray> &colors)
+ListEditor::ListEditor(const QStringList &names, const QList<RgbaColor> &colors)
     : m_originalNames(names)
 {
     m_items.reserve(names.size());
     m_converter.reserve(names.size());
     for (qsizetype i = 0; i < names.size(); ++i) {
-        const QByteArray color = colors.value(i);
+        const RgbaColor color = colors.value(i);
         m_items.append({m_nextId, names.at(i), color});
         m_originalColors.append(color);
         m_converter.append(m_nextId);
@@ -25,9 +25,9 @@ QStringList ListEditor::names() const
     return names;
 }
 
-QList<QByteArray> ListEditor::colors() const
+QList<RgbaColor> ListEditor::colors() const
 {
-    QList<QByteArray> colors;
+    QList<RgbaColor> colors;
     colors.reserve(m_items.size());
     for (const Item &item : m_items)
         colors.append(item.color);
@@ -46,7 +46,7 @@ bool ListEditor::contains(const QString &name) const
                        [&name](const Item &item) { return item.name == name; });
 }
 
-void ListEditor::addItem(const QString &name, const QByteArray &color)
+void ListEditor::addItem(const QString &name, const RgbaColor &color)
 {
     m_items.append({m_nextId++, name, color});
 }
@@ -59,7 +59,7 @@ bool ListEditor::renameItem(int row, const QString &name)
     return true;
 }
 
-void ListEditor::setColor(int row, const QByteArray &color)
+void ListEditor::setColor(int row, const RgbaColor &color)
 {
     if (row >= 0 && row < count())
         m_items[row].color = color;

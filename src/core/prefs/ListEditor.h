@@ -1,8 +1,8 @@
 #pragma once
 
 #include "model/PaymentData.h"
+#include "model/RgbaColor.h"
 
-#include <QByteArray>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -19,25 +19,26 @@
 class ListEditor
 {
 public:
-    // The names, and for categories one archived colour per name.
-    explicit ListEditor(const QStringList &names = {}, const QList<QByteArray> &colors = {});
+    // The names, and for categories one colour per name (black where
+    // none is given).
+    explicit ListEditor(const QStringList &names = {}, const QList<RgbaColor> &colors = {});
 
     int count() const { return int(m_items.size()); }
     QString name(int row) const { return m_items.at(row).name; }
-    QByteArray color(int row) const { return m_items.at(row).color; }
+    RgbaColor color(int row) const { return m_items.at(row).color; }
     QStringList names() const;
-    QList<QByteArray> colors() const;
+    QList<RgbaColor> colors() const;
     // Also true for a reserved name.
     bool contains(const QString &name) const;
     // Names no item may take, such as the income category's, which follows
     // the spending categories without being edited here.
     void setReservedNames(const QStringList &names);
 
-    void addItem(const QString &name, const QByteArray &color = {});
+    void addItem(const QString &name, const RgbaColor &color = {});
     // Refused (false) for an empty name and for a name the list already
     // holds, the item's own included.
     bool renameItem(int row, const QString &name);
-    void setColor(int row, const QByteArray &color);
+    void setColor(int row, const RgbaColor &color);
     // Removes the item at row; its entries go to the item at target (a row of
     // the list before the removal). Refused when the two are the same row.
     bool mergeItem(int row, int target);
@@ -62,7 +63,7 @@ private:
     {
         int id;
         QString name;
-        QByteArray color;
+        RgbaColor color;
     };
 
     int rowOfId(int id) const;
@@ -71,7 +72,7 @@ private:
     // Original position to the id of the item its entries belong to now.
     QList<int> m_converter;
     QStringList m_originalNames;
-    QList<QByteArray> m_originalColors;
+    QList<RgbaColor> m_originalColors;
     QStringList m_reservedNames;
     int m_nextId = 0;
 };

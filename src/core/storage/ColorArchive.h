@@ -3,18 +3,9 @@
 #include <QByteArray>
 #include <QString>
 
+#include "model/RgbaColor.h"
+
 #include <optional>
-
-// A colour as the lists keep it, components 0..1.
-struct RgbaColor
-{
-    float red = 0;
-    float green = 0;
-    float blue = 0;
-    float alpha = 1;
-
-    friend bool operator==(const RgbaColor &, const RgbaColor &) = default;
-};
 
 // The colours of the list file are archives of one colour object each, in the
 // same archive format as the month files.

@@ -1,6 +1,5 @@
 #include "graph/GraphWinController.h"
 
-#include "graph/ArchivedColor.h"
 #include "graph/BarGraphView.h"
 #include "graph/CircleGraphView.h"
 #include "graph/GraphCategoryModel.h"
@@ -13,7 +12,7 @@
 #include "model/Notifications.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
-#include "storage/ListFile.h"
+#include "widgets/RgbaQColor.h"
 
 #include <QComboBox>
 #include <QDate>
@@ -254,14 +253,11 @@ void GraphWinController::showMonthInFields(int value)
 
 void GraphWinController::readListPreference()
 {
-    const QString folder = m_controller->dataFolderPath();
-    QStringList names;
-    const QVariantList storedNames =
-        ListFile::preferenceDataListForKey(folder, ListFile::CategoryList);
-    for (const QVariant &name : storedNames)
-        names.append(name.toString());
-    QList<QColor> colors = ArchivedColor::fromArchives(
-        ListFile::preferenceDataListForKey(folder, ListFile::ColorList));
+    const StoredLists lists = m_controller->storedLists();
+    const QStringList &names = lists.categories;
+    QList<QColor> colors;
+    for (const RgbaColor &color : lists.colors)
+        colors.append(toQColor(color));
     // Every category is drawn, even one the colour list lacks.
     colors.resize(names.size(), QColor(Qt::gray));
 

@@ -1,6 +1,6 @@
 #include "prefs/ListEditorModel.h"
 
-#include "storage/ColorArchive.h"
+#include "widgets/RgbaQColor.h"
 
 #include <QDataStream>
 #include <QIODevice>
@@ -25,25 +25,11 @@ void ListEditorModel::setEditor(const ListEditor &editor)
     endResetModel();
 }
 
-QColor ListEditorModel::colorFromArchive(const QByteArray &archive)
-{
-    const std::optional<RgbaColor> rgba = ColorArchive::decode(archive);
-    if (!rgba)
-        return Qt::black;
-    return QColor::fromRgbF(rgba->red, rgba->green, rgba->blue, rgba->alpha);
-}
-
-QByteArray ListEditorModel::archiveFromColor(const QColor &color)
-{
-    const QColor rgb = color.toRgb();
-    return ColorArchive::encode({rgb.redF(), rgb.greenF(), rgb.blueF(), rgb.alphaF()});
-}
-
 int ListEditorModel::addItem(const QString &name, const QColor &color)
 {
     const int row = m_editor.count();
     beginInsertRows({}, row, row);
-    m_editor.addItem(name, m_kind == Kind::Categories ? archiveFromColor(color) : QByteArray());
+    m_editor.addItem(name, m_kind == Kind::Categories ? toRgba(color) : RgbaColor());
     endInsertRows();
     return row;
 }
@@ -63,13 +49,13 @@ void ListEditorModel::setColor(int row, const QColor &color)
 {
     if (m_kind != Kind::Categories || row < 0 || row >= m_editor.count())
         return;
-    m_editor.setColor(row, archiveFromColor(color));
+    m_editor.setColor(row, toRgba(color));
     emit dataChanged(index(row, ColorColumn), index(row, ColorColumn));
 }
 
 QColor ListEditorModel::color(int row) const
 {
-    return colorFromArchive(m_editor.color(row));
+    return toQColor(m_editor.color(row));
 }
 
 bool ListEditorModel::moveItem(int from, int dropRow)

@@ -29,9 +29,6 @@ public:
     QColor color(int row) const;
     bool moveItem(int from, int dropRow);
 
-    static QColor colorFromArchive(const QByteArray &archive);
-    static QByteArray archiveFromColor(const QColor &color);
-
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;

@@ -8,8 +8,6 @@
 #include "security/PasswordLock.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
-#include "storage/ColorArchive.h"
-#include "storage/ListFile.h"
 
 #include <QAbstractItemDelegate>
 #include <QApplication>
@@ -44,14 +42,6 @@ enum ReturnInput { ReturnPressesOK = 0, ReturnPressesInput = 2, ReturnPressesNot
 QString incomeName()
 {
     return QCoreApplication::translate("Localizable", "Income");
-}
-
-QStringList names(const QVariantList &values)
-{
-    QStringList list;
-    for (const QVariant &value : values)
-        list.append(value.toString());
-    return list;
 }
 
 int selectedRow(const QTableView *view)
@@ -266,31 +256,22 @@ void PrefWinController::setFirstSetting(bool firstSetting)
 
 void PrefWinController::readListFromDefault()
 {
-    const QString folder = m_controller->dataFolderPath();
-    showDataFolder(folder);
+    showDataFolder(m_controller->dataFolderPath());
     // The income category, last, is not edited here: it is written back
     // under its name in the current language on OK.
-    QStringList categories =
-        names(ListFile::preferenceDataListForKey(folder, ListFile::CategoryList));
-    QList<QByteArray> colors;
-    const QVariantList archived = ListFile::preferenceDataListForKey(folder, ListFile::ColorList);
-    for (const QVariant &color : archived)
-        colors.append(color.toByteArray());
+    const StoredLists stored = m_controller->storedLists();
+    QStringList categories = stored.categories;
+    QList<RgbaColor> colors = stored.colors;
     QString income = incomeName();
     if (!categories.isEmpty())
         income = categories.takeLast();
     // A list file from elsewhere may lack colours; those categories get black
     // rather than no colour at all.
-    colors.resize(categories.size());
-    for (QByteArray &color : colors) {
-        if (color.isEmpty())
-            color = ListEditorModel::archiveFromColor(Qt::black);
-    }
+    colors.resize(categories.size(), RgbaColor());
     ListEditor categoryEditor(categories, colors);
     categoryEditor.setReservedNames({income, incomeName()});
     m_categoryModel->setEditor(categoryEditor);
-    m_paywayModel->setEditor(
-        ListEditor(names(ListFile::preferenceDataListForKey(folder, ListFile::PaywayList))));
+    m_paywayModel->setEditor(ListEditor(stored.payways));
 }
 
 void PrefWinController::readSettings()
@@ -440,20 +421,8 @@ bool PrefWinController::convertAndWriteLists()
     ListConversion conversion;
     conversion.categoryMap = categories.conversionMapWithIncomeLast();
     conversion.paywayMap = payways.conversionMap();
-    QVariantList categoryList;
-    for (const QString &name : categories.names())
-        categoryList.append(name);
-    categoryList.append(incomeName());
-    QVariantList colorList;
-    for (const QByteArray &color : categories.colors())
-        colorList.append(color);
-    colorList.append(ColorArchive::encodeWhite(0.5f)); // income is always gray
-    QVariantList paywayList;
-    for (const QString &name : payways.names())
-        paywayList.append(name);
-    conversion.lists = {{ListFile::CategoryList, categoryList},
-                        {ListFile::ColorList, colorList},
-                        {ListFile::PaywayList, paywayList}};
+    conversion.setLists({categories.names() << incomeName(), categories.colors(), payways.names()},
+                        m_controller->dataFolderPath());
 
     // Application-modal: no entry may be booked while the folder changes.
     QProgressDialog progress(tr("Renumbering the stored entries…"), QString(), 0, 0, this);
