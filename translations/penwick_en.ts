@@ -241,38 +241,6 @@
             <translation>Book Entries</translation>
         </message>
         <message>
-            <source>Date</source>
-            <translation>Date</translation>
-        </message>
-        <message>
-            <source>Category</source>
-            <translation>Category</translation>
-        </message>
-        <message>
-            <source>Details</source>
-            <translation>Details</translation>
-        </message>
-        <message>
-            <source>Amount</source>
-            <translation>Amount</translation>
-        </message>
-        <message>
-            <source>Payway</source>
-            <translation>Payway</translation>
-        </message>
-        <message>
-            <source>Spending total:</source>
-            <translation>Spending total:</translation>
-        </message>
-        <message>
-            <source>Spending total</source>
-            <translation>Spending total</translation>
-        </message>
-        <message>
-            <source>&amp;Add Row</source>
-            <translation>&amp;Add Row</translation>
-        </message>
-        <message>
             <source>Cancel</source>
             <translation>Cancel</translation>
         </message>
@@ -1359,6 +1327,41 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>Some entries were not booked and are still here.</source>
             <translation>Some entries were not booked and are still here.</translation>
+        </message>
+    </context>
+    <context>
+        <name>InputRowList</name>
+        <message>
+            <source>Date</source>
+            <translation>Date</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>Details</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>Amount</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>Payway</translation>
+        </message>
+        <message>
+            <source>&amp;Add Row</source>
+            <translation>&amp;Add Row</translation>
+        </message>
+        <message>
+            <source>Spending total:</source>
+            <translation>Spending total:</translation>
+        </message>
+        <message>
+            <source>Spending total</source>
+            <translation>Spending total</translation>
         </message>
     </context>
 </TS>

@@ -240,38 +240,6 @@
             <translation>記帳</translation>
         </message>
         <message>
-            <source>Date</source>
-            <translation>日付</translation>
-        </message>
-        <message>
-            <source>Category</source>
-            <translation>分類</translation>
-        </message>
-        <message>
-            <source>Details</source>
-            <translation>内容</translation>
-        </message>
-        <message>
-            <source>Amount</source>
-            <translation>金額</translation>
-        </message>
-        <message>
-            <source>Payway</source>
-            <translation>支払い方法</translation>
-        </message>
-        <message>
-            <source>Spending total:</source>
-            <translation>支出の合計:</translation>
-        </message>
-        <message>
-            <source>Spending total</source>
-            <translation>支出の合計</translation>
-        </message>
-        <message>
-            <source>&amp;Add Row</source>
-            <translation>行を追加(&amp;A)</translation>
-        </message>
-        <message>
             <source>Cancel</source>
             <translation>キャンセル</translation>
         </message>
@@ -1357,6 +1325,41 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>Some entries were not booked and are still here.</source>
             <translation>記帳されなかった項目があり、そのまま残しています。</translation>
+        </message>
+    </context>
+    <context>
+        <name>InputRowList</name>
+        <message>
+            <source>Date</source>
+            <translation>日付</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>内容</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>金額</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>支払い方法</translation>
+        </message>
+        <message>
+            <source>&amp;Add Row</source>
+            <translation>行を追加(&amp;A)</translation>
+        </message>
+        <message>
+            <source>Spending total:</source>
+            <translation>支出の合計:</translation>
+        </message>
+        <message>
+            <source>Spending total</source>
+            <translation>支出の合計</translation>
         </message>
     </context>
 </TS>

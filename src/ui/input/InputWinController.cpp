@@ -5,6 +5,7 @@
 #include "input/DescriptionListModel.h"
 #include "input/InputDateBar.h"
 #include "input/InputRow.h"
+#include "input/InputRowList.h"
 #include "input/InputSheets.h"
 #include "ledger/KController.h"
 #include "model/EntryLimits.h"
@@ -21,20 +22,13 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
-#include <QMessageBox>
 #include <QPointer>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSet>
-#include <QTimer>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 
 namespace {
@@ -53,16 +47,6 @@ QString amountFieldText(double value)
 QString categoryPlaceholder()
 {
     return QCoreApplication::translate("Localizable", "Category");
-}
-
-QLabel *columnTitle(const QString &text, QWidget *parent, int width = -1,
-                    Qt::Alignment alignment = Qt::AlignLeft)
-{
-    auto *title = new QLabel(text, parent);
-    title->setAlignment(alignment | Qt::AlignVCenter);
-    if (width >= 0)
-        title->setFixedWidth(width);
-    return title;
 }
 
 } // namespace
@@ -89,50 +73,12 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     connect(m_dateBar, &InputDateBar::dateEdited, this, &InputWinController::setInputDate);
     connect(m_dateBar, &InputDateBar::stepped, this, &InputWinController::moveDate);
 
-    // Column titles, as wide as the columns of the rows below them.
-    m_header = new QWidget(this);
-    auto *headerLayout = new QHBoxLayout(m_header);
-    headerLayout->setContentsMargins(0, 0, 0, 0);
-    headerLayout->setSpacing(InputRow::Spacing);
-    headerLayout->addWidget(columnTitle(
-        tr("Date"), m_header, widths.month + widths.slash + widths.day + 2 * InputRow::Spacing,
-        Qt::AlignHCenter));
-    m_categoryTitle = columnTitle(tr("Category"), m_header);
-    headerLayout->addWidget(m_categoryTitle);
-    headerLayout->addWidget(columnTitle(tr("Details"), m_header), 1);
-    headerLayout->addWidget(columnTitle(tr("Amount"), m_header, widths.amount, Qt::AlignRight));
-    m_paywayTitle = columnTitle(tr("Payway"), m_header);
-    headerLayout->addWidget(m_paywayTitle);
-
-    m_inputView = new QWidget;
-    m_rowsLayout = new QVBoxLayout(m_inputView);
-    m_rowsLayout->setContentsMargins(0, 0, 0, 0);
-    m_rowsLayout->addStretch(1);
-    m_scrollArea = new QScrollArea(this);
-    m_scrollArea->setFrameShape(QFrame::NoFrame);
-    m_scrollArea->setWidgetResizable(true);
-    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scrollArea->setWidget(m_inputView);
-    // The titles must stay over their columns when the scroll bar comes and
-    // goes.
-    m_scrollArea->verticalScrollBar()->installEventFilter(this);
-
-    auto *sumLabel = new QLabel(tr("Spending total:"), this);
-    m_sumTF = new QLabel(this);
-    m_sumTF->setObjectName(QStringLiteral("sumTF"));
-    m_sumTF->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_sumTF->setFixedWidth(widths.amount);
-    m_sumTF->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_sumTF->setAccessibleName(tr("Spending total"));
-    QFont sumFont = m_sumTF->font();
-    sumFont.setBold(true);
-    m_sumTF->setFont(sumFont);
-
-    m_addRowButton = new KeyButton(tr("&Add Row"), this);
+    m_rowList = new InputRowList(m_descriptionModel, this);
+    m_rowList->setTabStart(m_dateBar->dayField());
+    m_addRowButton = m_rowList->addRowButton();
     m_cancelButton = new KeyButton(tr("Cancel"), this);
     m_inputButton = new KeyButton(tr("Book and Show &List"), this);
     m_OKButton = new KeyButton(tr("&Book"), this);
-    m_addRowButton->setObjectName(QStringLiteral("addRowButton"));
     m_cancelButton->setObjectName(QStringLiteral("cancelButton"));
     m_inputButton->setObjectName(QStringLiteral("inputButton"));
     m_OKButton->setObjectName(QStringLiteral("OKButton"));
@@ -142,17 +88,6 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     connect(m_inputButton, &QPushButton::clicked, this, &InputWinController::inputDataAndShowList);
     connect(m_OKButton, &QPushButton::clicked, this, &InputWinController::inputData);
 
-    // The total sits under the amounts, like the titles over them.
-    m_sumRow = new QWidget(this);
-    m_sumTrailer = new QWidget(m_sumRow);
-    auto *sumRow = new QHBoxLayout(m_sumRow);
-    sumRow->setContentsMargins(0, 0, 0, 0);
-    sumRow->setSpacing(InputRow::Spacing);
-    sumRow->addWidget(m_addRowButton);
-    sumRow->addStretch(1);
-    sumRow->addWidget(sumLabel);
-    sumRow->addWidget(m_sumTF);
-    sumRow->addWidget(m_sumTrailer);
     auto *buttonRow = new QHBoxLayout;
     buttonRow->addStretch(1);
     buttonRow->addWidget(m_cancelButton);
@@ -162,9 +97,7 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_dateBar);
     layout->addSpacing(InputRow::Spacing);
-    layout->addWidget(m_header);
-    layout->addWidget(m_scrollArea, 1);
-    layout->addWidget(m_sumRow);
+    layout->addWidget(m_rowList, 1);
     layout->addLayout(buttonRow);
 
     // Tab order: the date, the rows (linked as they are added), the buttons.
@@ -185,7 +118,7 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     // Room for eight rows at first; the window remembers what the user makes
     // of it.
     if (!restoreGeometry(Settings().savedLayout(SettingsKeys::InputWindow))) {
-        const int rowHeight = m_rows.constFirst()->sizeHint().height() + m_rowsLayout->spacing();
+        const int rowHeight = m_rowList->rowHeight();
         resize(std::max(sizeHint().width(), fontMetrics().averageCharWidth() * 130),
                sizeHint().height() + 5 * rowHeight);
     }
@@ -215,7 +148,7 @@ void InputWinController::setYear(int year, int month, int date)
 
 bool InputWinController::canTerminateApp() const
 {
-    return std::all_of(m_rows.cbegin(), m_rows.cend(),
+    return std::all_of(m_rowList->rows().cbegin(), m_rowList->rows().cend(),
                        [this](const InputRow *row) { return isRowEmpty(row); });
 }
 
@@ -235,9 +168,14 @@ void InputWinController::confirmInputDataBeforeTerminate()
     });
 }
 
+int InputWinController::numberOfRows() const
+{
+    return int(m_rowList->rows().size());
+}
+
 QWidget *InputWinController::getControlWithTag(int tag) const
 {
-    const InputRow *row = m_rows.value(tag / 10 - 1);
+    const InputRow *row = m_rowList->rowOfTag(tag);
     return row ? row->controlWithTag(tag) : nullptr;
 }
 
@@ -261,13 +199,13 @@ void InputWinController::submit(int afterInputWork)
     m_afterInputWork = afterInputWork;
     // Statements still being typed are booked by their value.
     calcurateSum();
-    for (InputRow *row : std::as_const(m_rows)) {
+    for (InputRow *row : std::as_const(m_rowList->rows())) {
         if (row->amountProblem()) {
             showAmountSheet(row);
             return;
         }
     }
-    for (InputRow *row : std::as_const(m_rows)) {
+    for (InputRow *row : std::as_const(m_rowList->rows())) {
         const bool noCategory = control<QComboBox>(row, InputRow::Category)->currentIndex() <= 0;
         const bool hasData = !control<QLineEdit>(row, InputRow::Amount)->text().isEmpty()
             || !control<QComboBox>(row, InputRow::Description)->currentText().isEmpty();
@@ -295,7 +233,7 @@ void InputWinController::confirmYearsAndBook()
 {
     const int thisYear = QDate::currentDate().year();
     QList<int> farYears;
-    for (const InputRow *row : std::as_const(m_rows)) {
+    for (const InputRow *row : std::as_const(m_rowList->rows())) {
         const int year = rowDate(row).year();
         const bool booked = control<QComboBox>(row, InputRow::Category)->currentIndex() > 0;
         if (booked && std::abs(year - thisYear) > 1 && !farYears.contains(year))
@@ -335,7 +273,7 @@ void InputWinController::bookInputData()
     };
     QList<Entry> entries;
     PaymentArray kept;
-    for (InputRow *row : std::as_const(m_rows)) {
+    for (InputRow *row : std::as_const(m_rowList->rows())) {
         auto record = std::make_shared<PaymentData>();
         const QDate date = rowDate(row);
         record->setYear(date.year());
@@ -407,7 +345,7 @@ void InputWinController::decrementDate()
 
 void InputWinController::moveDate(int days)
 {
-    for (InputRow *row : std::as_const(m_rows)) {
+    for (InputRow *row : std::as_const(m_rowList->rows())) {
         if (isRowEmpty(row))
             setRowDate(row, rowDate(row).addDays(days));
     }
@@ -427,7 +365,7 @@ QDate InputWinController::inputDate() const
 void InputWinController::setInputDate(const QDate &date)
 {
     m_dateBar->setDate(date);
-    for (InputRow *row : std::as_const(m_rows))
+    for (InputRow *row : std::as_const(m_rowList->rows()))
         setRowDate(row, date);
 }
 
@@ -460,42 +398,29 @@ bool InputWinController::isRowEmpty(const InputRow *row) const
 
 void InputWinController::makeNewInputViewFromAction()
 {
-    if (m_rows.isEmpty())
+    if (m_rowList->rows().isEmpty())
         return;
-    makeNewInputView(control<LastPopUpButton>(m_rows.constLast(), InputRow::Payway));
+    makeNewInputView(control<LastPopUpButton>(m_rowList->rows().constLast(), InputRow::Payway));
 }
 
 void InputWinController::makeNewInputView(LastPopUpButton *sender)
 {
-    const InputRow *senderRow = m_rows.value(InputRow::tagOf(sender) / 10 - 1);
+    const InputRow *senderRow = m_rowList->rowOfTag(InputRow::tagOf(sender));
     const QDate date = senderRow ? rowDate(senderRow) : m_dateBar->date();
     InputRow *row = addRow();
     setRowDate(row, date);
     auto *month = control<QLineEdit>(row, InputRow::Month);
     month->setFocus(Qt::TabFocusReason);
-    // The row has its place only once the layout has run.
-    QTimer::singleShot(0, month, [this, month] { m_scrollArea->ensureWidgetVisible(month); });
+    m_rowList->ensureVisible(month);
 }
 
 InputRow *InputWinController::addRow()
 {
-    const int number = numberOfRows() + 1;
-    QWidget *previous = m_rows.isEmpty()
-        ? static_cast<QWidget *>(m_dateBar->dayField())
-        : control<QWidget>(m_rows.constLast(), InputRow::Payway);
-    auto *row = new InputRow(number, m_descriptionModel, m_inputView);
-    m_rows.append(row);
-    m_rowsLayout->insertWidget(number - 1, row);
-    // Now rather than on the layout's next pass, so that Tab can reach it at
-    // once.
-    row->show();
-
+    InputRow *row = m_rowList->addRow();
     auto *category = control<QComboBox>(row, InputRow::Category);
     auto *description = control<QComboBox>(row, InputRow::Description);
     auto *amount = control<QLineEdit>(row, InputRow::Amount);
     auto *payway = control<LastPopUpButton>(row, InputRow::Payway);
-    auto *month = control<QLineEdit>(row, InputRow::Month);
-    auto *day = control<QLineEdit>(row, InputRow::Day);
 
     connect(category, &QComboBox::currentIndexChanged, this, &InputWinController::calcurateSum);
     connect(category, &QComboBox::activated, row, [row] { row->categoryFromMemory = false; });
@@ -508,37 +433,14 @@ InputRow *InputWinController::addRow()
     connect(payway, &LastPopUpButton::nextKeyViewNeeded, this,
             &InputWinController::makeNewInputView);
 
-    // Behind the previous row in the Tab order, and in front of the buttons.
-    if (auto *previousPayway = qobject_cast<LastPopUpButton *>(previous))
-        previousPayway->setNextKeyView(month);
-    else
-        setTabOrder(previous, month);
-    setTabOrder(month, day);
-    setTabOrder(day, category);
-    setTabOrder(category, description);
-    setTabOrder(description, amount);
-    setTabOrder(amount, payway);
-    setTabOrder(payway, m_addRowButton);
-
     fillPopUps(row);
-    row->setPopUpWidths(m_categoryWidth, m_paywayWidth);
     clearDataOfView(row);
     return row;
 }
 
 void InputWinController::removeInputViews()
 {
-    while (m_rows.size() > FixedRows) {
-        InputRow *row = m_rows.takeLast();
-        row->hide();
-        m_rowsLayout->removeWidget(row);
-        // Later: the key press that booked may still be on its way through
-        // one of its controls.
-        row->deleteLater();
-    }
-    auto *last = control<LastPopUpButton>(m_rows.constLast(), InputRow::Payway);
-    last->setNextKeyView(nullptr);
-    setTabOrder(last, m_addRowButton);
+    m_rowList->removeRowsAfter(FixedRows);
 }
 
 void InputWinController::clearDataOfView(InputRow *row)
@@ -558,7 +460,7 @@ void InputWinController::clearDataOfView(InputRow *row)
 
 void InputWinController::calcurateSum()
 {
-    for (InputRow *row : std::as_const(m_rows)) {
+    for (InputRow *row : std::as_const(m_rowList->rows())) {
         auto *amount = control<QLineEdit>(row, InputRow::Amount);
         if (amount->text().isEmpty()) {
             row->setAmountProblem(std::nullopt);
@@ -573,14 +475,14 @@ void InputWinController::calcurateSum()
         if (text != amount->text())
             amount->setText(text);
     }
-    m_sumTF->setText(amountText(spendingTotal()));
+    m_rowList->setTotalText(amountText(spendingTotal()));
 }
 
 double InputWinController::spendingTotal() const
 {
     // Each amount as it will be booked (a float), summed as the lists sum.
     double total = 0;
-    for (const InputRow *row : m_rows) {
+    for (const InputRow *row : m_rowList->rows()) {
         const QString text = control<QLineEdit>(row, InputRow::Amount)->text();
         if (text.isEmpty())
             continue;
@@ -598,7 +500,7 @@ double InputWinController::spendingTotal() const
 void InputWinController::setPopupButtonTitle()
 {
     updateColumnWidths();
-    for (InputRow *row : std::as_const(m_rows))
+    for (InputRow *row : std::as_const(m_rowList->rows()))
         fillPopUps(row);
     changeDefaultButton();
     calcurateSum();
@@ -608,15 +510,8 @@ void InputWinController::updateColumnWidths()
 {
     QStringList categories = m_controller->categoryList();
     categories.append(categoryPlaceholder());
-    m_categoryWidth = InputRow::popUpWidth(this, categories);
-    m_paywayWidth = InputRow::popUpWidth(this, m_controller->paywayList());
-    m_categoryTitle->setFixedWidth(m_categoryWidth);
-    m_paywayTitle->setFixedWidth(m_paywayWidth);
-    m_sumTrailer->setFixedWidth(m_paywayWidth);
-    for (InputRow *row : std::as_const(m_rows))
-        row->setPopUpWidths(m_categoryWidth, m_paywayWidth);
-    // Never narrower than a row, so nothing needs scrolling sideways.
-    m_scrollArea->setMinimumWidth(m_inputView->minimumSizeHint().width());
+    m_rowList->setPopUpWidths(InputRow::popUpWidth(this, categories),
+                              InputRow::popUpWidth(this, m_controller->paywayList()));
 }
 
 void InputWinController::fillPopUps(InputRow *row)
@@ -696,11 +591,11 @@ void InputWinController::reloadDescriptions()
     // A description box whose list is replaced forgets its text and shows
     // the first item instead: keep what each row holds.
     QStringList texts;
-    for (const InputRow *row : std::as_const(m_rows))
+    for (const InputRow *row : std::as_const(m_rowList->rows()))
         texts.append(control<QComboBox>(row, InputRow::Description)->currentText());
     m_descriptionModel->reload();
-    for (qsizetype i = 0; i < m_rows.size(); ++i) {
-        auto *description = control<QComboBox>(m_rows.at(i), InputRow::Description);
+    for (qsizetype i = 0; i < m_rowList->rows().size(); ++i) {
+        auto *description = control<QComboBox>(m_rowList->rows().at(i), InputRow::Description);
         description->setCurrentIndex(-1);
         description->setEditText(texts.at(i));
     }
@@ -715,10 +610,10 @@ void InputWinController::closeEvent(QCloseEvent *event)
 {
     saveWindowGeometry();
     removeInputViews();
-    for (InputRow *row : std::as_const(m_rows))
+    for (InputRow *row : std::as_const(m_rowList->rows()))
         clearDataOfView(row);
     calcurateSum();
-    m_scrollArea->verticalScrollBar()->setValue(0);
+    m_rowList->scrollToTop();
     m_dateBar->dayField()->setFocus();
     QWidget::closeEvent(event);
 }
@@ -737,17 +632,4 @@ void InputWinController::keyPressEvent(QKeyEvent *event)
         }
     }
     QWidget::keyPressEvent(event);
-}
-
-bool InputWinController::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_scrollArea->verticalScrollBar()
-        && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
-        const int right = event->type() == QEvent::Show
-            ? m_scrollArea->verticalScrollBar()->sizeHint().width()
-            : 0;
-        m_header->layout()->setContentsMargins(0, 0, right, 0);
-        m_sumRow->layout()->setContentsMargins(0, 0, right, 0);
-    }
-    return QWidget::eventFilter(watched, event);
 }

@@ -8,15 +8,13 @@
 
 class DescriptionListModel;
 class InputRow;
+class InputRowList;
 class KController;
 class KeyButton;
 class LastPopUpButton;
 class QComboBox;
-class QLabel;
 class QLineEdit;
-class QScrollArea;
 class InputDateBar;
-class QVBoxLayout;
 
 // The window in which entries are booked: a date on top, rows of input below
 // (month and day, category, description, amount, payway), the running total
@@ -47,7 +45,7 @@ public:
     // booking, or to go on. Shown on the window, which comes to the front.
     void confirmInputDataBeforeTerminate();
 
-    int numberOfRows() const { return int(m_rows.size()); }
+    int numberOfRows() const;
     // The control of a row by its tag, 10 * row + role; null when there is
     // none.
     QWidget *getControlWithTag(int tag) const;
@@ -86,7 +84,6 @@ public slots:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     InputRow *addRow();
@@ -123,18 +120,7 @@ private:
     DescriptionListModel *m_descriptionModel;
 
     InputDateBar *m_dateBar;
-    QWidget *m_header;
-    QLabel *m_categoryTitle;
-    QLabel *m_paywayTitle;
-    QWidget *m_sumRow;
-    QWidget *m_sumTrailer;
-    int m_categoryWidth = 0;
-    int m_paywayWidth = 0;
-    QScrollArea *m_scrollArea;
-    QWidget *m_inputView;
-    QVBoxLayout *m_rowsLayout;
-    QList<InputRow *> m_rows;
-    QLabel *m_sumTF;
+    InputRowList *m_rowList;
     KeyButton *m_addRowButton;
     KeyButton *m_cancelButton;
     KeyButton *m_inputButton;
