@@ -276,26 +276,6 @@
             <translation>&amp;Help</translation>
         </message>
         <message>
-            <source>The entries of %1 could not be read.</source>
-            <translation>The entries of %1 could not be read.</translation>
-        </message>
-        <message>
-            <source>%1
-
-The month is shown empty and cannot be changed, and its file "%2" is left exactly as it is. The other months work as usual.</source>
-            <translation>%1
-
-The month is shown empty and cannot be changed, and its file "%2" is left exactly as it is. The other months work as usual.</translation>
-        </message>
-        <message>
-            <source>The entries of %1 could not be saved.</source>
-            <translation>The entries of %1 could not be saved.</translation>
-        </message>
-        <message>
-            <source>Penwick</source>
-            <translation>Penwick</translation>
-        </message>
-        <message>
             <source>About Penwick</source>
             <translation>About Penwick</translation>
         </message>
@@ -326,90 +306,6 @@ The month is shown empty and cannot be changed, and its file "%2" is left exactl
         <message>
             <source>A change of the category and payway lists could not be finished.</source>
             <translation>A change of the category and payway lists could not be finished.</translation>
-        </message>
-        <message>
-            <source>Some months could not be saved.</source>
-            <translation>Some months could not be saved.</translation>
-        </message>
-        <message>
-            <source>%1
-
-Free some disk space or check the folder's permissions and try again, or save a copy of these months elsewhere and bring it back later.</source>
-            <translation>%1
-
-Free some disk space or check the folder's permissions and try again, or save a copy of these months elsewhere and bring it back later.</translation>
-        </message>
-        <message>
-            <source>Try Again</source>
-            <translation>Try Again</translation>
-        </message>
-        <message>
-            <source>Save a Copy…</source>
-            <translation>Save a Copy…</translation>
-        </message>
-        <message>
-            <source>Quit Without Saving</source>
-            <translation>Quit Without Saving</translation>
-        </message>
-        <message>
-            <source>The copy could not be saved either.</source>
-            <translation>The copy could not be saved either.</translation>
-        </message>
-        <message>
-            <source>Months that could not be saved on %1 were kept.</source>
-            <translation>Months that could not be saved on %1 were kept.</translation>
-        </message>
-        <message>
-            <source>%1
-
-They are in %2. Bring them back into the data folder now?</source>
-            <translation>%1
-
-They are in %2. Bring them back into the data folder now?</translation>
-        </message>
-        <message>
-            <source>Bring Back</source>
-            <translation>Bring Back</translation>
-        </message>
-        <message>
-            <source>Not Now</source>
-            <translation>Not Now</translation>
-        </message>
-        <message>
-            <source>Discard…</source>
-            <translation>Discard…</translation>
-        </message>
-        <message>
-            <source>Not every kept month could be brought back; the copy stays.</source>
-            <translation>Not every kept month could be brought back; the copy stays.</translation>
-        </message>
-        <message>
-            <source>Throw the kept months away for good?</source>
-            <translation>Throw the kept months away for good?</translation>
-        </message>
-        <message>
-            <source>Throw Away</source>
-            <translation>Throw Away</translation>
-        </message>
-        <message>
-            <source>The category and payway lists could not be read.</source>
-            <translation>The category and payway lists could not be read.</translation>
-        </message>
-        <message>
-            <source>%1
-
-The file "%2" is left exactly as it is, and nothing can be booked until it is mended or replaced.</source>
-            <translation>%1
-
-The file "%2" is left exactly as it is, and nothing can be booked until it is mended or replaced.</translation>
-        </message>
-        <message>
-            <source>%1
-
-The changes are kept in memory, and Penwick tries again every 30 seconds and at every change. Free some disk space or check the folder's permissions.</source>
-            <translation>%1
-
-The changes are kept in memory, and Penwick tries again every 30 seconds and at every change. Free some disk space or check the folder's permissions.</translation>
         </message>
     </context>
     <context>
@@ -1362,6 +1258,113 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>Spending total</source>
             <translation>Spending total</translation>
+        </message>
+    </context>
+    <context>
+        <name>LedgerAlerts</name>
+        <message>
+            <source>Penwick</source>
+            <translation>Penwick</translation>
+        </message>
+        <message>
+            <source>Some months could not be saved.</source>
+            <translation>Some months could not be saved.</translation>
+        </message>
+        <message>
+            <source>%1
+
+Free some disk space or check the folder's permissions and try again, or save a copy of these months elsewhere and bring it back later.</source>
+            <translation>%1
+
+Free some disk space or check the folder's permissions and try again, or save a copy of these months elsewhere and bring it back later.</translation>
+        </message>
+        <message>
+            <source>Try Again</source>
+            <translation>Try Again</translation>
+        </message>
+        <message>
+            <source>Save a Copy…</source>
+            <translation>Save a Copy…</translation>
+        </message>
+        <message>
+            <source>Quit Without Saving</source>
+            <translation>Quit Without Saving</translation>
+        </message>
+        <message>
+            <source>The copy could not be saved either.</source>
+            <translation>The copy could not be saved either.</translation>
+        </message>
+        <message>
+            <source>Months that could not be saved on %1 were kept.</source>
+            <translation>Months that could not be saved on %1 were kept.</translation>
+        </message>
+        <message>
+            <source>%1
+
+They are in %2. Bring them back into the data folder now?</source>
+            <translation>%1
+
+They are in %2. Bring them back into the data folder now?</translation>
+        </message>
+        <message>
+            <source>Bring Back</source>
+            <translation>Bring Back</translation>
+        </message>
+        <message>
+            <source>Not Now</source>
+            <translation>Not Now</translation>
+        </message>
+        <message>
+            <source>Discard…</source>
+            <translation>Discard…</translation>
+        </message>
+        <message>
+            <source>Not every kept month could be brought back; the copy stays.</source>
+            <translation>Not every kept month could be brought back; the copy stays.</translation>
+        </message>
+        <message>
+            <source>Throw the kept months away for good?</source>
+            <translation>Throw the kept months away for good?</translation>
+        </message>
+        <message>
+            <source>Throw Away</source>
+            <translation>Throw Away</translation>
+        </message>
+        <message>
+            <source>The entries of %1 could not be read.</source>
+            <translation>The entries of %1 could not be read.</translation>
+        </message>
+        <message>
+            <source>%1
+
+The month is shown empty and cannot be changed, and its file "%2" is left exactly as it is. The other months work as usual.</source>
+            <translation>%1
+
+The month is shown empty and cannot be changed, and its file "%2" is left exactly as it is. The other months work as usual.</translation>
+        </message>
+        <message>
+            <source>The category and payway lists could not be read.</source>
+            <translation>The category and payway lists could not be read.</translation>
+        </message>
+        <message>
+            <source>%1
+
+The file "%2" is left exactly as it is, and nothing can be booked until it is mended or replaced.</source>
+            <translation>%1
+
+The file "%2" is left exactly as it is, and nothing can be booked until it is mended or replaced.</translation>
+        </message>
+        <message>
+            <source>The entries of %1 could not be saved.</source>
+            <translation>The entries of %1 could not be saved.</translation>
+        </message>
+        <message>
+            <source>%1
+
+The changes are kept in memory, and Penwick tries again every 30 seconds and at every change. Free some disk space or check the folder's permissions.</source>
+            <translation>%1
+
+The changes are kept in memory, and Penwick tries again every 30 seconds and at every change. Free some disk space or check the folder's permissions.</translation>
         </message>
     </context>
 </TS>

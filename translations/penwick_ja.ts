@@ -275,26 +275,6 @@
             <translation>ヘルプ(&amp;H)</translation>
         </message>
         <message>
-            <source>The entries of %1 could not be read.</source>
-            <translation>%1 のデータを読み込めませんでした。</translation>
-        </message>
-        <message>
-            <source>%1
-
-The month is shown empty and cannot be changed, and its file "%2" is left exactly as it is. The other months work as usual.</source>
-            <translation>%1
-
-この月は空のまま表示され、変更できません。ファイル「%2」はそのまま残してあります。ほかの月はいつも通り使えます。</translation>
-        </message>
-        <message>
-            <source>The entries of %1 could not be saved.</source>
-            <translation>%1 のデータを保存できませんでした。</translation>
-        </message>
-        <message>
-            <source>Penwick</source>
-            <translation>Penwick</translation>
-        </message>
-        <message>
             <source>About Penwick</source>
             <translation>Penwick について</translation>
         </message>
@@ -325,90 +305,6 @@ The month is shown empty and cannot be changed, and its file "%2" is left exactl
         <message>
             <source>A change of the category and payway lists could not be finished.</source>
             <translation>分類と支払い方法のリストの変更を完了できませんでした。</translation>
-        </message>
-        <message>
-            <source>Some months could not be saved.</source>
-            <translation>保存できなかった月があります。</translation>
-        </message>
-        <message>
-            <source>%1
-
-Free some disk space or check the folder's permissions and try again, or save a copy of these months elsewhere and bring it back later.</source>
-            <translation>%1
-
-ディスクの空きを作るかフォルダのアクセス権を確かめてから再試行してください。または、これらの月のコピーを別の場所に保存し、後で戻すこともできます。</translation>
-        </message>
-        <message>
-            <source>Try Again</source>
-            <translation>再試行</translation>
-        </message>
-        <message>
-            <source>Save a Copy…</source>
-            <translation>コピーを保存…</translation>
-        </message>
-        <message>
-            <source>Quit Without Saving</source>
-            <translation>保存せずに終了</translation>
-        </message>
-        <message>
-            <source>The copy could not be saved either.</source>
-            <translation>コピーも保存できませんでした。</translation>
-        </message>
-        <message>
-            <source>Months that could not be saved on %1 were kept.</source>
-            <translation>%1 に保存できなかった月が保管されています。</translation>
-        </message>
-        <message>
-            <source>%1
-
-They are in %2. Bring them back into the data folder now?</source>
-            <translation>%1
-
-保管場所は %2 です。今すぐデータフォルダに戻しますか?</translation>
-        </message>
-        <message>
-            <source>Bring Back</source>
-            <translation>戻す</translation>
-        </message>
-        <message>
-            <source>Not Now</source>
-            <translation>後で</translation>
-        </message>
-        <message>
-            <source>Discard…</source>
-            <translation>破棄…</translation>
-        </message>
-        <message>
-            <source>Not every kept month could be brought back; the copy stays.</source>
-            <translation>保管した月の一部を戻せませんでした。コピーは残しています。</translation>
-        </message>
-        <message>
-            <source>Throw the kept months away for good?</source>
-            <translation>保管した月を完全に破棄しますか?</translation>
-        </message>
-        <message>
-            <source>Throw Away</source>
-            <translation>破棄</translation>
-        </message>
-        <message>
-            <source>The category and payway lists could not be read.</source>
-            <translation>分類と支払い方法のリストを読み込めませんでした。</translation>
-        </message>
-        <message>
-            <source>%1
-
-The file "%2" is left exactly as it is, and nothing can be booked until it is mended or replaced.</source>
-            <translation>%1
-
-ファイル「%2」はそのまま残しています。修復または置き換えるまで記帳できません。</translation>
-        </message>
-        <message>
-            <source>%1
-
-The changes are kept in memory, and Penwick tries again every 30 seconds and at every change. Free some disk space or check the folder's permissions.</source>
-            <translation>%1
-
-変更はメモリに残しており、30 秒ごとと変更のたびに再試行します。ディスクの空きを作るか、フォルダのアクセス権を確かめてください。</translation>
         </message>
     </context>
     <context>
@@ -1360,6 +1256,113 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
         <message>
             <source>Spending total</source>
             <translation>支出の合計</translation>
+        </message>
+    </context>
+    <context>
+        <name>LedgerAlerts</name>
+        <message>
+            <source>Penwick</source>
+            <translation>Penwick</translation>
+        </message>
+        <message>
+            <source>Some months could not be saved.</source>
+            <translation>保存できなかった月があります。</translation>
+        </message>
+        <message>
+            <source>%1
+
+Free some disk space or check the folder's permissions and try again, or save a copy of these months elsewhere and bring it back later.</source>
+            <translation>%1
+
+ディスクの空きを作るかフォルダのアクセス権を確かめてから再試行してください。または、これらの月のコピーを別の場所に保存し、後で戻すこともできます。</translation>
+        </message>
+        <message>
+            <source>Try Again</source>
+            <translation>再試行</translation>
+        </message>
+        <message>
+            <source>Save a Copy…</source>
+            <translation>コピーを保存…</translation>
+        </message>
+        <message>
+            <source>Quit Without Saving</source>
+            <translation>保存せずに終了</translation>
+        </message>
+        <message>
+            <source>The copy could not be saved either.</source>
+            <translation>コピーも保存できませんでした。</translation>
+        </message>
+        <message>
+            <source>Months that could not be saved on %1 were kept.</source>
+            <translation>%1 に保存できなかった月が保管されています。</translation>
+        </message>
+        <message>
+            <source>%1
+
+They are in %2. Bring them back into the data folder now?</source>
+            <translation>%1
+
+保管場所は %2 です。今すぐデータフォルダに戻しますか?</translation>
+        </message>
+        <message>
+            <source>Bring Back</source>
+            <translation>戻す</translation>
+        </message>
+        <message>
+            <source>Not Now</source>
+            <translation>後で</translation>
+        </message>
+        <message>
+            <source>Discard…</source>
+            <translation>破棄…</translation>
+        </message>
+        <message>
+            <source>Not every kept month could be brought back; the copy stays.</source>
+            <translation>保管した月の一部を戻せませんでした。コピーは残しています。</translation>
+        </message>
+        <message>
+            <source>Throw the kept months away for good?</source>
+            <translation>保管した月を完全に破棄しますか?</translation>
+        </message>
+        <message>
+            <source>Throw Away</source>
+            <translation>破棄</translation>
+        </message>
+        <message>
+            <source>The entries of %1 could not be read.</source>
+            <translation>%1 のデータを読み込めませんでした。</translation>
+        </message>
+        <message>
+            <source>%1
+
+The month is shown empty and cannot be changed, and its file "%2" is left exactly as it is. The other months work as usual.</source>
+            <translation>%1
+
+この月は空のまま表示され、変更できません。ファイル「%2」はそのまま残してあります。ほかの月はいつも通り使えます。</translation>
+        </message>
+        <message>
+            <source>The category and payway lists could not be read.</source>
+            <translation>分類と支払い方法のリストを読み込めませんでした。</translation>
+        </message>
+        <message>
+            <source>%1
+
+The file "%2" is left exactly as it is, and nothing can be booked until it is mended or replaced.</source>
+            <translation>%1
+
+ファイル「%2」はそのまま残しています。修復または置き換えるまで記帳できません。</translation>
+        </message>
+        <message>
+            <source>The entries of %1 could not be saved.</source>
+            <translation>%1 のデータを保存できませんでした。</translation>
+        </message>
+        <message>
+            <source>%1
+
+The changes are kept in memory, and Penwick tries again every 30 seconds and at every change. Free some disk space or check the folder's permissions.</source>
+            <translation>%1
+
+変更はメモリに残しており、30 秒ごとと変更のたびに再試行します。ディスクの空きを作るか、フォルダのアクセス権を確かめてください。</translation>
         </message>
     </context>
 </TS>

@@ -5,7 +5,6 @@
 #include <QKeySequence>
 #include <QObject>
 #include <QPointer>
-#include <QSet>
 #include <QString>
 
 #include <memory>
@@ -15,11 +14,11 @@ class ConfirmPassPanelController;
 class GraphWinController;
 class InputWinController;
 class KController;
+class LedgerAlerts;
 class ListWinController;
 class PrefWinController;
 class QAction;
 class QMenuBar;
-class QMessageBox;
 class QWidget;
 
 // The application controller's window half: it starts the program (password,
@@ -110,19 +109,11 @@ private:
     void updateMenuItems();
     void registerMyNotifications();
     void openStartWindows();
-    void reportMonthFileUnreadable(const QString &path, const QString &reason);
-    void reportMonthFileNotWritten(const QString &path, const QString &reason);
-    void reportListFileUnreadable(const QString &path, const QString &reason);
-    // Months that could not be written stop the quit: the user decides.
-    void askAboutUnsavedMonths();
-    bool saveRescueCopy();
     void keepAWindowOpen();
-    // Rescue folders of an earlier run, offered back one by one.
-    void offerRescuedMonths();
-    void report(const QString &text, const QString &details);
     void showAbout();
 
     std::unique_ptr<KController> m_ledger;
+    LedgerAlerts *m_alerts;
     bool m_running = false;
     QPointer<ConfirmPassPanelController> m_passwordPanel;
     QPointer<InputWinController> myInputWinController;
@@ -131,14 +122,9 @@ private:
     QPointer<PrefWinController> myPrefWinController;
     QPointer<BalanceWinController> myBalanceWinController;
     QStringList m_filesWaitingForStart;
-    // Paths already reported, so that a folder of broken files, or a disk
-    // that stays full, is told once rather than at every save.
-    QSet<QString> m_reportedUnreadable;
-    QSet<QString> m_reportedNotWritten;
     // The user chose to quit without the months that could not be saved.
     bool m_quitWithoutSaving = false;
     bool m_quitting = false;
-    QPointer<QMessageBox> m_unsavedSheet;
 
     QAction *m_quitAction = nullptr;
     QAction *m_aboutAction = nullptr;
