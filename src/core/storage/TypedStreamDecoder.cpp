@@ -13,17 +13,17 @@ QString typeCode(char type)
 } // namespace
 
 TypedStreamDecoder::TypedStreamDecoder(const TypedStreamReader &reader)
-    : TypedStreamDecoder(reader, reader.topLevelValues(), QByteArrayLiteral("top level"),
+    : TypedStreamDecoder(reader, reader.topLevelValues(), "top level",
                          std::make_shared<QString>(reader.errorString()))
 {
 }
 
 TypedStreamDecoder::TypedStreamDecoder(const TypedStreamReader &reader,
                                        std::span<const TypedStreamValue> values,
-                                       QByteArray context, std::shared_ptr<QString> error)
+                                       QByteArrayView context, std::shared_ptr<QString> error)
     : m_reader(&reader)
     , m_values(values)
-    , m_context(std::move(context))
+    , m_context(context)
     , m_error(std::move(error))
 {
 }
@@ -31,7 +31,7 @@ TypedStreamDecoder::TypedStreamDecoder(const TypedStreamReader &reader,
 TypedStreamDecoder TypedStreamDecoder::decoderFor(const TypedStreamObject *object) const
 {
     TypedStreamDecoder decoder(*m_reader, object ? object->values : std::span<const TypedStreamValue>(),
-                               object ? object->className() : QByteArrayLiteral("nil"), m_error);
+                               object ? QByteArrayView(object->className()) : "nil", m_error);
     if (!object)
         decoder.fail(QStringLiteral("there is no object to decode"));
     return decoder;
@@ -111,7 +111,7 @@ QString TypedStreamDecoder::decodeString()
         return {};
     }
     TypedStreamDecoder contents = decoderFor(object);
-    const QByteArray *utf8 = contents.takeAs<QByteArray>('+');
+    const QByteArrayView *utf8 = contents.takeAs<QByteArrayView>('+');
     if (!utf8 || !contents.finish())
         return {};
     return QString::fromUtf8(*utf8);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QByteArrayView>
 #include <QList>
 #include <QString>
@@ -63,7 +62,7 @@ public:
 
 private:
     TypedStreamDecoder(const TypedStreamReader &reader, std::span<const TypedStreamValue> values,
-                       QByteArray context, std::shared_ptr<QString> error);
+                       QByteArrayView context, std::shared_ptr<QString> error);
 
     const TypedStreamValue *take(char type);
     template<typename T>
@@ -73,6 +72,6 @@ private:
     const TypedStreamReader *m_reader;
     std::span<const TypedStreamValue> m_values;
     std::size_t m_next = 0;
-    QByteArray m_context;  // whose values, for messages
+    QByteArrayView m_context;  // whose values, for messages; held by the reader or static
     std::shared_ptr<QString> m_error;
 };
