@@ -110,6 +110,13 @@ QString TypedStreamDecoder::decodeString()
                  .arg(QString::fromUtf8(object->className())));
         return {};
     }
+    // A string holds its bytes and nothing else; only a string that does not
+    // needs a decoder, to say what is wrong with it.
+    const auto *bytes = object->values.size() == 1 && object->values.front().type == '+'
+        ? std::get_if<QByteArrayView>(&object->values.front().data)
+        : nullptr;
+    if (bytes)
+        return QString::fromUtf8(*bytes);
     TypedStreamDecoder contents = decoderFor(object);
     const QByteArrayView *utf8 = contents.takeAs<QByteArrayView>('+');
     if (!utf8 || !contents.finish())
