@@ -173,7 +173,9 @@ int DumpCommand::run(const QStringList &arguments)
             return unreadable(path, error);
         CommandLine::printOut(entriesToText(*month).toUtf8());
     } else {
-        const TypedStreamReader reader(data);
+        // Shown as references, like objects met again: the walk numbers an
+        // object before its values.
+        const TypedStreamReader reader(data, TypedStreamReader::OpenReferences::Allow);
         if (!reader.isValid())
             return unreadable(path, reader.errorString());
         CommandLine::printOut(QJsonDocument(streamToJson(reader)).toJson(QJsonDocument::Indented));

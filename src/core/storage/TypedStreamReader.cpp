@@ -79,10 +79,11 @@ QString shown(HexByte hex)
 class TypedStreamReader::Parser
 {
 public:
-    explicit Parser(TypedStreamReader &reader)
+    Parser(TypedStreamReader &reader, OpenReferences openReferences)
         : m_reader(reader)
         , m_data(reader.m_data)
         , m_work(WorkPerByte * m_data.size() + WorkAllowance)
+        , m_allowOpenReferences(openReferences == OpenReferences::Allow)
     {
     }
 
@@ -535,11 +536,13 @@ private:
         const auto *entry = std::get_if<ObjectEntry>(&m_objectTable[index]);
         if (!entry)
             fail("an object label refers to a class or C string");
-        if (!entry->complete)
+        if (entry->complete) {
+            // A reference puts the whole object below this point: a consumer
+            // that follows it recurses as deep as if it were written here.
+            noteLevels(entry->height);
+        } else if (!m_allowOpenReferences) {
             fail("an object refers to an object that contains it");
-        // A reference puts the whole object below this point: a consumer that
-        // follows it recurses as deep as if it were written here.
-        noteLevels(entry->height);
+        }
         return entry->object;
     }
 
@@ -673,6 +676,7 @@ private:
     const QByteArrayView m_data;
     qsizetype m_pos = 0;
     qint64 m_work;
+    const bool m_allowOpenReferences;
     int m_nesting = 0;
     std::vector<QByteArrayView> m_sharedStrings;
     std::vector<std::unique_ptr<std::vector<Type>>> m_types;  // parsed type strings
@@ -684,10 +688,10 @@ private:
     std::array<std::vector<TypedStreamValue>, MaxNesting + 1> m_valueBuffers;
 };
 
-TypedStreamReader::TypedStreamReader(QByteArray data)
+TypedStreamReader::TypedStreamReader(QByteArray data, OpenReferences openReferences)
     : m_data(std::move(data))
 {
-    m_errorString = Parser(*this).run();
+    m_errorString = Parser(*this, openReferences).run();
     if (!m_errorString.isEmpty()) {
         m_objects.clear();
         m_valueBlocks.clear();

@@ -21,15 +21,28 @@
 // copied): texts and bytes are views into it. Data made with
 // QByteArray::fromRawData() must therefore outlive the reader. An object that
 // the stream holds once and references again is the same TypedStreamObject at
-// every place. A reference to an object that is still being read (a cycle)
-// is refused, so the objects always form an acyclic graph of bounded depth.
+// every place.
 //
 // Any bytes are safe to read: malformed input makes isValid() false with a
 // description in errorString() and leaves the tree empty.
 class TypedStreamReader
 {
 public:
-    explicit TypedStreamReader(QByteArray data);
+    // What becomes of a reference to an object that is still being read, one
+    // that contains the reference (a child pointing back to its parent).
+    // Other programs write such archives; this program's files never hold one.
+    enum class OpenReferences {
+        // The stream is refused, so the objects form an acyclic graph of
+        // bounded depth that may be followed without remembering anything.
+        Refuse,
+        // The reference is that object, complete once the stream is read.
+        // The objects may then form cycles: whoever follows references must
+        // remember the objects it has met.
+        Allow,
+    };
+
+    explicit TypedStreamReader(QByteArray data,
+                               OpenReferences openReferences = OpenReferences::Refuse);
     ~TypedStreamReader();
     TypedStreamReader(TypedStreamReader &&) noexcept;
     TypedStreamReader &operator=(TypedStreamReader &&) noexcept;
