@@ -37,67 +37,25 @@ TypedStreamDecoder TypedStreamDecoder::decoderFor(const TypedStreamObject *objec
     return decoder;
 }
 
-const TypedStreamValue *TypedStreamDecoder::take(char type)
+const TypedStreamValue *TypedStreamDecoder::refuse(char type)
 {
     if (hasError())
         return nullptr;
     if (atEnd()) {
         fail(QStringLiteral("a value of type '%1' was asked for, but no value is left")
                  .arg(typeCode(type)));
-        return nullptr;
-    }
-    const TypedStreamValue &value = m_values[m_next];
-    if (value.type != type) {
+    } else {
         fail(QStringLiteral("value %1 has type '%2', not '%3'")
                  .arg(m_next + 1)
-                 .arg(typeCode(value.type), typeCode(type)));
-        return nullptr;
+                 .arg(typeCode(m_values[m_next].type), typeCode(type)));
     }
-    ++m_next;
-    return &value;
-}
-
-template<typename T>
-const T *TypedStreamDecoder::takeAs(char type)
-{
-    const TypedStreamValue *value = take(type);
-    return value ? std::get_if<T>(&value->data) : nullptr;
+    return nullptr;
 }
 
 void TypedStreamDecoder::fail(const QString &message)
 {
     if (!hasError())
         *m_error = QStringLiteral("%1: %2").arg(QString::fromUtf8(m_context), message);
-}
-
-qint32 TypedStreamDecoder::decodeInt()
-{
-    const qint64 *value = takeAs<qint64>('i');
-    return value ? qint32(*value) : 0;
-}
-
-qint32 TypedStreamDecoder::decodeLong()
-{
-    const qint64 *value = takeAs<qint64>('l');
-    return value ? qint32(*value) : 0;
-}
-
-char TypedStreamDecoder::decodeChar()
-{
-    const qint64 *value = takeAs<qint64>('c');
-    return value ? char(*value) : '\0';
-}
-
-float TypedStreamDecoder::decodeFloat()
-{
-    const double *value = takeAs<double>('f');
-    return value ? float(*value) : 0.0f;
-}
-
-const TypedStreamObject *TypedStreamDecoder::decodeObject()
-{
-    const auto *object = takeAs<const TypedStreamObject *>('@');
-    return object ? *object : nullptr;
 }
 
 QString TypedStreamDecoder::decodeString()
@@ -155,16 +113,6 @@ const TypedStreamValue *TypedStreamDecoder::decodeValue()
 {
     const char type = nextType();
     return type ? take(type) : nullptr;
-}
-
-bool TypedStreamDecoder::atEnd() const
-{
-    return m_next >= m_values.size();
-}
-
-char TypedStreamDecoder::nextType() const
-{
-    return atEnd() ? '\0' : m_values[m_next].type;
 }
 
 bool TypedStreamDecoder::finish()
