@@ -42,16 +42,41 @@ constexpr qint64 WorkAllowance = 1024;
 // heap rather than from the system page by page.
 constexpr std::size_t ValueBlockSize = 1024;
 
-// Adds a value built where it is kept. One built on the stack and copied in
-// would be read back whole before the stores of its parts had landed: that
-// stall cost more than everything else of adding a value.
-template<typename T>
-void append(std::vector<TypedStreamValue> &values, char type, T data)
+// The values gathered while an object or a compound value is read. Adding
+// one stays inline; only making room goes out of line.
+class ValueBuffer
 {
-    TypedStreamValue &value = values.emplace_back();
-    value.type = type;
-    value.data = data;
-}
+public:
+    void clear() { m_size = 0; }
+    std::span<const TypedStreamValue> values() const { return {m_values.get(), m_size}; }
+
+    // Builds the value where it is kept. One built on the stack and copied in
+    // would be read back whole before the stores of its parts had landed:
+    // that stall cost more than everything else of adding a value.
+    template<typename T>
+    void append(char type, T data)
+    {
+        if (m_size == m_capacity)
+            grow();
+        TypedStreamValue &value = m_values[m_size++];
+        value.type = type;
+        value.data = data;
+    }
+
+private:
+    Q_NEVER_INLINE void grow()
+    {
+        const std::size_t capacity = std::max<std::size_t>(16, 2 * m_capacity);
+        auto values = std::make_unique<TypedStreamValue[]>(capacity);
+        std::copy_n(m_values.get(), m_size, values.get());
+        m_values = std::move(values);
+        m_capacity = capacity;
+    }
+
+    std::unique_ptr<TypedStreamValue[]> m_values;
+    std::size_t m_size = 0;
+    std::size_t m_capacity = 0;
+};
 
 // A tag or type code as a message shows it.
 struct HexByte
@@ -93,8 +118,11 @@ public:
     {
         try {
             readHeader();
+            // Top-level objects are read one level deeper: this buffer is free.
+            ValueBuffer &topLevel = m_valueBuffers.front();
             while (!atEnd())
-                readGroup(m_reader.m_topLevelValues);
+                readGroup(topLevel);
+            m_reader.m_topLevelValues.assign(topLevel.values().begin(), topLevel.values().end());
             return {};
         } catch (const Failure &failure) {
             return failure.message;
@@ -223,11 +251,16 @@ private:
 
     qint64 readInteger() { return readInteger(readByte()); }
 
-    qint64 readInteger(quint8 head)
+    // Most integers are their head byte; only the others take a call.
+    Q_ALWAYS_INLINE qint64 readInteger(quint8 head)
     {
-        // Most integers are their head byte.
         if (head < FirstReservedTag || head > LastReservedTag)
             return qint8(head);
+        return readTaggedInteger(head);
+    }
+
+    qint64 readTaggedInteger(quint8 head)
+    {
         switch (head) {
         case Int16Tag:
             return readFixed<qint16>();
@@ -407,7 +440,7 @@ private:
         m_reader.m_systemVersion = readInteger();
     }
 
-    void readGroup(std::vector<TypedStreamValue> &values)
+    void readGroup(ValueBuffer &values)
     {
         spend(1);
         const qsizetype typeString = readSharedString();
@@ -417,62 +450,75 @@ private:
             readValue(type, values);
     }
 
-    void readValue(const Type &type, std::vector<TypedStreamValue> &values)
+    // Numbers and byte strings, nearly every value, are read here, inline;
+    // the rest in readReferenceOrCompound().
+    Q_ALWAYS_INLINE void readValue(const Type &type, ValueBuffer &values)
     {
         spend(1);
-        const auto pushText = [&](std::optional<QByteArrayView> bytes) {
-            if (bytes)
-                append(values, type.code, *bytes);
-            else
-                append(values, type.code, std::monostate{});
-        };
         switch (type.code) {
         case 'c':
-            append(values, type.code, qint64(qint8(readByte())));
+            values.append(type.code, qint64(qint8(readByte())));
             return;
         case 'C':
-            append(values, type.code, qint64(readByte()));
+            values.append(type.code, qint64(readByte()));
             return;
         // Unsigned values were written as the signed value of the same bits.
         case 's':
-            append(values, type.code, qint64(qint16(readInteger())));
+            values.append(type.code, qint64(qint16(readInteger())));
             return;
         case 'S':
-            append(values, type.code, qint64(quint16(readInteger())));
+            values.append(type.code, qint64(quint16(readInteger())));
             return;
         case 'i':
         case 'l':
-            append(values, type.code, qint64(qint32(readInteger())));
+            values.append(type.code, qint64(qint32(readInteger())));
             return;
         case 'I':
         case 'L':
-            append(values, type.code, qint64(quint32(readInteger())));
+            values.append(type.code, qint64(quint32(readInteger())));
             return;
         case 'q':
         case 'Q':
-            append(values, type.code, readInteger());
+            values.append(type.code, readInteger());
             return;
         case 'f':
         case 'd':
-            append(values, type.code, readReal(type.code));
+            values.append(type.code, readReal(type.code));
             return;
+        case '+':
+            values.append(type.code, readBytes(readLength()));
+            return;
+        default:
+            readReferenceOrCompound(type, values);
+            return;
+        }
+    }
+
+    // Objects, classes, C strings, atoms and selectors, ignored fields,
+    // arrays and structs.
+    void readReferenceOrCompound(const Type &type, ValueBuffer &values)
+    {
+        const auto pushText = [&](std::optional<QByteArrayView> bytes) {
+            if (bytes)
+                values.append(type.code, *bytes);
+            else
+                values.append(type.code, std::monostate{});
+        };
+        switch (type.code) {
         case '@':
             if (const TypedStreamObject *object = readObject())
-                append(values, type.code, object);
+                values.append(type.code, object);
             else
-                append(values, type.code, std::monostate{});
+                values.append(type.code, std::monostate{});
             return;
         case '#':
             if (const qsizetype cls = readClass(); cls >= 0)
-                append(values, type.code, chainOf(cls));
+                values.append(type.code, chainOf(cls));
             else
-                append(values, type.code, std::monostate{});
+                values.append(type.code, std::monostate{});
             return;
         case '*':
             pushText(readCString());
-            return;
-        case '+':
-            append(values, type.code, readBytes(readLength()));
             return;
         case '%':
         case ':':
@@ -486,12 +532,12 @@ private:
         case '[': {
             const Type &element = type.members.front();
             if (element.code == 'c' || element.code == 'C') {
-                append(values, type.code, readBytes(type.count));
+                values.append(type.code, readBytes(type.count));
                 return;
             }
             const Nested nested(*this);
             noteLevels(0);
-            append(values, type.code, gather([&](std::vector<TypedStreamValue> &elements) {
+            values.append(type.code, gather([&](ValueBuffer &elements) {
                        for (qint64 i = 0; i < type.count; ++i)
                            readValue(element, elements);
                    }));
@@ -500,7 +546,7 @@ private:
         case '{': {
             const Nested nested(*this);
             noteLevels(0);
-            append(values, type.code, gather([&](std::vector<TypedStreamValue> &fields) {
+            values.append(type.code, gather([&](ValueBuffer &fields) {
                        for (const Type &field : type.members)
                            readValue(field, fields);
                    }));
@@ -509,17 +555,17 @@ private:
         }
     }
 
-    // The values that `read` adds, kept by the reader. They gather in a
-    // buffer kept for the current nesting level, then move into the reader in
-    // one piece.
+    // The values that `read` adds, kept by the reader. They gather in the
+    // buffer of the current nesting level, then are copied into the reader's
+    // store in one piece.
     template<typename Read>
     std::span<const TypedStreamValue> gather(const Read &read)
     {
         Q_ASSERT(m_nesting <= MaxNesting);  // a Nested guards every caller
-        std::vector<TypedStreamValue> &buffer = m_valueBuffers[std::size_t(m_nesting)];
+        ValueBuffer &buffer = m_valueBuffers[std::size_t(m_nesting)];
         buffer.clear();
         read(buffer);
-        return keep(buffer);
+        return keep(buffer.values());
     }
 
     // An object in an "@" position: nil (null), a new object or a label.
@@ -559,7 +605,7 @@ private:
         if (cls < 0)
             fail("an object without a class");
         object->classChain = chainOf(cls);
-        object->values = gather([this](std::vector<TypedStreamValue> &values) {
+        object->values = gather([this](ValueBuffer &values) {
             while (peekByte() != EndOfObjectTag)
                 readGroup(values);
         });
@@ -633,7 +679,7 @@ private:
     }
 
     // Copies the values into the reader's blocks and answers where they are.
-    std::span<const TypedStreamValue> keep(const std::vector<TypedStreamValue> &values)
+    std::span<const TypedStreamValue> keep(std::span<const TypedStreamValue> values)
     {
         if (values.empty())
             return {};
@@ -685,7 +731,7 @@ private:
     std::vector<OpenObject> m_openObjects;
     // One per nesting level, so that an outer object's buffer stays where it
     // is while an inner one fills.
-    std::array<std::vector<TypedStreamValue>, MaxNesting + 1> m_valueBuffers;
+    std::array<ValueBuffer, MaxNesting + 1> m_valueBuffers;
 };
 
 TypedStreamReader::TypedStreamReader(QByteArray data, OpenReferences openReferences)
