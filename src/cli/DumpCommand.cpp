@@ -36,7 +36,7 @@ QJsonValue realToJson(char type, double value)
     return value;
 }
 
-QJsonArray classChainToJson(const TypedStreamClassChain &chain)
+QJsonArray classChainToJson(TypedStreamClassChainView chain)
 {
     QJsonArray classes;
     for (const TypedStreamClass &cls : chain)
@@ -81,19 +81,19 @@ private:
         json[u"value"_s] = realToJson(type, number);
     }
 
-    void add(QJsonObject &json, char, const QByteArray &bytes)
+    void add(QJsonObject &json, char, QByteArrayView bytes)
     {
         // Stateless: a sequence cut off at the end is an error, not left pending.
         QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless
                                                          | QStringDecoder::Flag::ConvertInitialBom);
         const QString text = decoder.decode(bytes);
         if (decoder.hasError())
-            json[u"hex"_s] = QString::fromLatin1(bytes.toHex());
+            json[u"hex"_s] = QString::fromLatin1(bytes.toByteArray().toHex());
         else
             json[u"text"_s] = text;
     }
 
-    void add(QJsonObject &json, char, const TypedStreamClassChain &chain)
+    void add(QJsonObject &json, char, TypedStreamClassChainView chain)
     {
         json[u"classes"_s] = classChainToJson(chain);
     }
@@ -111,7 +111,7 @@ private:
         json[u"values"_s] = values(object->values);
     }
 
-    void add(QJsonObject &json, char, const TypedStreamValue::Members &members)
+    void add(QJsonObject &json, char, TypedStreamValue::Members members)
     {
         json[u"members"_s] = values(members);
     }
@@ -173,7 +173,9 @@ int DumpCommand::run(const QStringList &arguments)
             return unreadable(path, error);
         CommandLine::printOut(entriesToText(*month).toUtf8());
     } else {
-        const TypedStreamReader reader(data);
+        // Shown as references, like objects met again: the walk numbers an
+        // object before its values.
+        const TypedStreamReader reader(data, TypedStreamReader::OpenReferences::Allow);
         if (!reader.isValid())
             return unreadable(path, reader.errorString());
         CommandLine::printOut(QJsonDocument(streamToJson(reader)).toJson(QJsonDocument::Indented));

@@ -24,8 +24,8 @@ public:
 
     // The whole stream of a valid reader: byte order, system version and the
     // top-level values, objects nested in the values that hold them. An object
-    // met again is given as {"ref": N}, N counting objects from 1 in the order
-    // they first appear (as their "object" member says).
+    // met again, even inside itself, is given as {"ref": N}, N counting objects
+    // from 1 in the order they first appear (as their "object" member says).
     static QJsonObject streamToJson(const TypedStreamReader &reader);
     // The month's memo, if any, as a line starting "# ", then one line per
     // entry: date, category index, details, amount and payway index,

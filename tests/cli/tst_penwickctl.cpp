@@ -124,30 +124,53 @@ private slots:
         QCOMPARE(compact(DumpCommand::streamToJson(reader)), compact(parseJson(expected)));
     }
 
-    void sharedObjectsAndNil()
+    void references_data()
     {
+        QTest::addColumn<QByteArray>("data");
+        QTest::addColumn<QByteArray>("expected");  // the root's values
+
         // The root holds one object twice (the second time as a reference), nil,
         // and another object, which must get the next number.
         int root = 0;
         int shared = 0;
         int other = 0;
-        const QByteArray data =
-            TypedStreamWriter::archiveRootObject(&root, TClasses, [&](TypedStreamWriter &w) {
-                w.encodeObject(&shared, TClasses, [](TypedStreamWriter &sw) { sw.encodeInt(7); });
-                w.encodeObject(&shared, TClasses, [](TypedStreamWriter &) {});
-                w.encodeNil();
-                w.encodeObject(&other, TClasses, [](TypedStreamWriter &) {});
-            });
-        const char *const expected = R"({"values": [
-          {"type": "@", "object": 2,
-           "classes": [{"name": "T", "version": 0}, {"name": "NSObject", "version": 0}],
-           "values": [{"type": "i", "value": 7}]},
-          {"type": "@", "ref": 2},
-          {"type": "@", "value": null},
-          {"type": "@", "object": 3,
-           "classes": [{"name": "T", "version": 0}, {"name": "NSObject", "version": 0}],
-           "values": []}]})";
-        QCOMPARE(compact({{u"values"_s, rootValues(data)}}), compact(parseJson(expected)));
+        QTest::newRow("shared object and nil")
+            << TypedStreamWriter::archiveRootObject(&root, TClasses, [&](TypedStreamWriter &w) {
+                   w.encodeObject(&shared, TClasses, [](TypedStreamWriter &sw) { sw.encodeInt(7); });
+                   w.encodeObject(&shared, TClasses, [](TypedStreamWriter &) {});
+                   w.encodeNil();
+                   w.encodeObject(&other, TClasses, [](TypedStreamWriter &) {});
+               })
+            << QByteArray(R"({"values": [
+                 {"type": "@", "object": 2,
+                  "classes": [{"name": "T", "version": 0}, {"name": "NSObject", "version": 0}],
+                  "values": [{"type": "i", "value": 7}]},
+                 {"type": "@", "ref": 2},
+                 {"type": "@", "value": null},
+                 {"type": "@", "object": 3,
+                  "classes": [{"name": "T", "version": 0}, {"name": "NSObject", "version": 0}],
+                  "values": []}]})");
+
+        // As other programs write them (this one cannot): the root (O0) holds a
+        // new object O3 of class T (the label of O1), whose one value is the
+        // root, still being read.
+        QTest::newRow("child pointing back to its parent")
+            << QByteArray::fromHex(QByteArray(RootOfClassTHex) + "92" "84" "93" "9292" "86" "86")
+            << QByteArray(R"({"values": [
+                 {"type": "@", "object": 2,
+                  "classes": [{"name": "T", "version": 0}, {"name": "NSObject", "version": 0}],
+                  "values": [{"type": "@", "ref": 1}]}]})");
+    }
+
+    void references()
+    {
+        QFETCH(QByteArray, data);
+        QFETCH(QByteArray, expected);
+        const Run run = penwickctl({u"dump"_s, writeFile(u"references.archive"_s, data)});
+        QCOMPARE(run.err, QByteArray());
+        QCOMPARE(run.status, 0);
+        const QJsonValue values = QJsonDocument::fromJson(run.out)[u"values"_s][0][u"values"_s];
+        QCOMPARE(compact({{u"values"_s, values}}), compact(parseJson(expected.constData())));
     }
 
     void numbers()
@@ -236,6 +259,14 @@ private slots:
         QVERIFY(readerError.startsWith(u"at byte "_s));
         QTest::newRow("truncated") << truncatedPath << false << readerError;
         QTest::newRow("truncated, entries") << truncatedPath << true << readerError;
+
+        // The month files stay strict: a memo that is the month itself is refused.
+        QByteArray selfMemo = lunchMonth();
+        selfMemo.replace(QByteArray::fromHex("849c9b046d656d6f86"), QByteArray::fromHex("92"));
+        const QString cycleError = TypedStreamReader(selfMemo).errorString();
+        QVERIFY(cycleError.endsWith(u"an object refers to an object that contains it"_s));
+        QTest::newRow("memo pointing back to its month, entries")
+            << writeFile(u"self-memo.month"_s, selfMemo) << true << cycleError;
 
         // A sound archive whose root is not a month.
         int root = 0;

@@ -146,11 +146,11 @@ QString describe(const TypedStreamValue &value)
         return type + QString::number(*integer);
     if (const auto *real = std::get_if<double>(&data))
         return type + QString::number(*real, 'g', 10);
-    if (const auto *bytes = std::get_if<QByteArray>(&data))
+    if (const auto *bytes = std::get_if<QByteArrayView>(&data))
         return type + QString::fromLatin1(*bytes);
     if (const auto *object = std::get_if<const TypedStreamObject *>(&data))
         return type + QString::fromLatin1((*object)->className());
-    if (const auto *chain = std::get_if<TypedStreamClassChain>(&data)) {
+    if (const auto *chain = std::get_if<TypedStreamClassChainView>(&data)) {
         QStringList classes;
         for (const TypedStreamClass &cls : *chain)
             classes << QStringLiteral("%1 %2").arg(QString::fromLatin1(cls.name)).arg(cls.version);
@@ -278,12 +278,13 @@ void TestTypedStream::readsMonthFiles()
     QCOMPARE(reader.systemVersion(), 1000);
     QCOMPARE(reader.topLevelValues().size(), 1u);
     const TypedStreamObject *root = reader.rootObject();
-    QCOMPARE(root->classChain, MonthClasses);
+    QCOMPARE(TypedStreamClassChain(root->classChain.begin(), root->classChain.end()), MonthClasses);
     const auto *array = std::get<const TypedStreamObject *>(root->values[2].data);
     QCOMPARE(array->className(), arrayClass);
     QVERIFY(array->inherits("NSArray"));
     const auto *record = std::get<const TypedStreamObject *>(array->values[1].data);
-    QCOMPARE(record->classChain, RecordClasses);
+    QCOMPARE(TypedStreamClassChain(record->classChain.begin(), record->classChain.end()),
+             RecordClasses);
     QCOMPARE(reader.versionForClassName("MonthDataList"), 2);
     QCOMPARE(reader.versionForClassName("DataList"), 1);
     QCOMPARE(reader.versionForClassName("NSString"), 1);

@@ -148,13 +148,14 @@ std::shared_ptr<MonthDataList> KController::readMonthFile(int year, int month)
 {
     const QString path = filePathForYear(year, month);
     QFile file(path);
-    if (!file.exists())
-        return std::make_shared<MonthDataList>(year, month);
-
     QString reason;
     std::shared_ptr<MonthDataList> list;
+    // Opened before asking whether it exists: most months do, and the
+    // question costs a system call.
     if (file.open(QIODevice::ReadOnly))
         list = MonthFile::decode(file.readAll(), &reason);
+    else if (!file.exists())
+        return std::make_shared<MonthDataList>(year, month);
     else
         reason = file.errorString();
     if (list && (list->year() != year || list->month() != month)) {

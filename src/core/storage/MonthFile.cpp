@@ -39,15 +39,14 @@ void encodeRecord(TypedStreamWriter &writer, const PaymentData &record)
 }
 
 // Null when the values do not fit; the decoder then holds the reason.
-PaymentDataPtr decodeRecord(TypedStreamDecoder &decoder)
+// Version 1 records stored whole amounts.
+PaymentDataPtr decodeRecord(TypedStreamDecoder &decoder, bool wholeAmount)
 {
     const int year = decoder.decodeInt();
     const int month = decoder.decodeInt();
     const int date = decoder.decodeInt();
     const int category = decoder.decodeInt();
     const QString details = decoder.decodeString();
-    // Version 1 stored whole amounts.
-    const bool wholeAmount = decoder.versionForClassName("PaymentData").value_or(2) < 2;
     const float amount = wholeAmount ? float(decoder.decodeLong()) : decoder.decodeFloat();
     const int payway = decoder.decodeInt();
     if (!decoder.finish())
@@ -82,13 +81,14 @@ std::shared_ptr<MonthDataList> decodeMonth(TypedStreamDecoder &decoder)
     const QList<const TypedStreamObject *> elements = decoder.decodeArray();
     PaymentArray records;
     records.reserve(elements.size());
+    const bool wholeAmounts = decoder.versionForClassName("PaymentData").value_or(2) < 2;
     for (const TypedStreamObject *element : elements) {
         if (!element->inherits("PaymentData")) {
             decoder.finish(); // keeps the first error, if any
             return nullptr;
         }
         TypedStreamDecoder recordDecoder = decoder.decoderFor(element);
-        PaymentDataPtr record = decodeRecord(recordDecoder);
+        PaymentDataPtr record = decodeRecord(recordDecoder, wholeAmounts);
         if (!record)
             return nullptr;
         records.append(std::move(record));

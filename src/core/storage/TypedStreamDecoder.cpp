@@ -13,17 +13,17 @@ QString typeCode(char type)
 } // namespace
 
 TypedStreamDecoder::TypedStreamDecoder(const TypedStreamReader &reader)
-    : TypedStreamDecoder(reader, reader.topLevelValues(), QByteArrayLiteral("top level"),
+    : TypedStreamDecoder(reader, reader.topLevelValues(), "top level",
                          std::make_shared<QString>(reader.errorString()))
 {
 }
 
 TypedStreamDecoder::TypedStreamDecoder(const TypedStreamReader &reader,
                                        std::span<const TypedStreamValue> values,
-                                       QByteArray context, std::shared_ptr<QString> error)
+                                       QByteArrayView context, std::shared_ptr<QString> error)
     : m_reader(&reader)
     , m_values(values)
-    , m_context(std::move(context))
+    , m_context(context)
     , m_error(std::move(error))
 {
 }
@@ -31,73 +31,31 @@ TypedStreamDecoder::TypedStreamDecoder(const TypedStreamReader &reader,
 TypedStreamDecoder TypedStreamDecoder::decoderFor(const TypedStreamObject *object) const
 {
     TypedStreamDecoder decoder(*m_reader, object ? object->values : std::span<const TypedStreamValue>(),
-                               object ? object->className() : QByteArrayLiteral("nil"), m_error);
+                               object ? QByteArrayView(object->className()) : "nil", m_error);
     if (!object)
         decoder.fail(QStringLiteral("there is no object to decode"));
     return decoder;
 }
 
-const TypedStreamValue *TypedStreamDecoder::take(char type)
+const TypedStreamValue *TypedStreamDecoder::refuse(char type)
 {
     if (hasError())
         return nullptr;
     if (atEnd()) {
         fail(QStringLiteral("a value of type '%1' was asked for, but no value is left")
                  .arg(typeCode(type)));
-        return nullptr;
-    }
-    const TypedStreamValue &value = m_values[m_next];
-    if (value.type != type) {
+    } else {
         fail(QStringLiteral("value %1 has type '%2', not '%3'")
                  .arg(m_next + 1)
-                 .arg(typeCode(value.type), typeCode(type)));
-        return nullptr;
+                 .arg(typeCode(m_values[m_next].type), typeCode(type)));
     }
-    ++m_next;
-    return &value;
-}
-
-template<typename T>
-const T *TypedStreamDecoder::takeAs(char type)
-{
-    const TypedStreamValue *value = take(type);
-    return value ? std::get_if<T>(&value->data) : nullptr;
+    return nullptr;
 }
 
 void TypedStreamDecoder::fail(const QString &message)
 {
     if (!hasError())
         *m_error = QStringLiteral("%1: %2").arg(QString::fromUtf8(m_context), message);
-}
-
-qint32 TypedStreamDecoder::decodeInt()
-{
-    const qint64 *value = takeAs<qint64>('i');
-    return value ? qint32(*value) : 0;
-}
-
-qint32 TypedStreamDecoder::decodeLong()
-{
-    const qint64 *value = takeAs<qint64>('l');
-    return value ? qint32(*value) : 0;
-}
-
-char TypedStreamDecoder::decodeChar()
-{
-    const qint64 *value = takeAs<qint64>('c');
-    return value ? char(*value) : '\0';
-}
-
-float TypedStreamDecoder::decodeFloat()
-{
-    const double *value = takeAs<double>('f');
-    return value ? float(*value) : 0.0f;
-}
-
-const TypedStreamObject *TypedStreamDecoder::decodeObject()
-{
-    const auto *object = takeAs<const TypedStreamObject *>('@');
-    return object ? *object : nullptr;
 }
 
 QString TypedStreamDecoder::decodeString()
@@ -110,8 +68,15 @@ QString TypedStreamDecoder::decodeString()
                  .arg(QString::fromUtf8(object->className())));
         return {};
     }
+    // A string holds its bytes and nothing else; only a string that does not
+    // needs a decoder, to say what is wrong with it.
+    const auto *bytes = object->values.size() == 1 && object->values.front().type == '+'
+        ? std::get_if<QByteArrayView>(&object->values.front().data)
+        : nullptr;
+    if (bytes)
+        return QString::fromUtf8(*bytes);
     TypedStreamDecoder contents = decoderFor(object);
-    const QByteArray *utf8 = contents.takeAs<QByteArray>('+');
+    const QByteArrayView *utf8 = contents.takeAs<QByteArrayView>('+');
     if (!utf8 || !contents.finish())
         return {};
     return QString::fromUtf8(*utf8);
@@ -148,16 +113,6 @@ const TypedStreamValue *TypedStreamDecoder::decodeValue()
 {
     const char type = nextType();
     return type ? take(type) : nullptr;
-}
-
-bool TypedStreamDecoder::atEnd() const
-{
-    return m_next >= m_values.size();
-}
-
-char TypedStreamDecoder::nextType() const
-{
-    return atEnd() ? '\0' : m_values[m_next].type;
 }
 
 bool TypedStreamDecoder::finish()

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QByteArray>
+#include "storage/TypedStreamValue.h"
+
 #include <QByteArrayView>
 #include <QList>
 #include <QString>
@@ -13,7 +14,6 @@
 
 class TypedStreamReader;
 struct TypedStreamObject;
-struct TypedStreamValue;
 
 // Hands out the values of one object (or of the stream's top level) in
 // order, the way an initWithCoder: asks for them. Each call names the type it
@@ -22,7 +22,8 @@ struct TypedStreamValue;
 // its calls and check hasError() once. Decoders made with decoderFor() share
 // that error with the decoder that made them.
 //
-// The reader must outlive its decoders.
+// The reader must outlive its decoders. The calls that take one value are
+// inline: loading a ledger makes millions of them.
 class TypedStreamDecoder
 {
 public:
@@ -34,12 +35,21 @@ public:
     // A decoder of the object's values. A null object is an error.
     TypedStreamDecoder decoderFor(const TypedStreamObject *object) const;
 
-    qint32 decodeInt();    // "i"
-    qint32 decodeLong();   // "l"
-    char decodeChar();     // "c"
-    float decodeFloat();   // "f", whether written as a real or as an integer
+    qint32 decodeInt() { return qint32(integer('i')); }   // "i"
+    qint32 decodeLong() { return qint32(integer('l')); }  // "l"
+    char decodeChar() { return char(integer('c')); }      // "c"
+    // "f", whether written as a real or as an integer
+    float decodeFloat()
+    {
+        const double *value = takeAs<double>('f');
+        return value ? float(*value) : 0.0f;
+    }
     // "@": null for nil.
-    const TypedStreamObject *decodeObject();
+    const TypedStreamObject *decodeObject()
+    {
+        const auto *object = takeAs<const TypedStreamObject *>('@');
+        return object ? *object : nullptr;
+    }
     // "@" holding an NSString or NSMutableString; a null QString for nil.
     QString decodeString();
     // "@" holding an NSArray or NSMutableArray, answered as its elements,
@@ -49,9 +59,9 @@ public:
     // for; null when none is left.
     const TypedStreamValue *decodeValue();
 
-    bool atEnd() const;
+    bool atEnd() const { return m_next >= m_values.size(); }
     // The type code of the next value; 0 when none is left.
-    char nextType() const;
+    char nextType() const { return atEnd() ? '\0' : m_values[m_next].type; }
     // Records an error when values are left, as the Mac does when a class
     // reads less than it wrote; answers !hasError().
     bool finish();
@@ -63,16 +73,33 @@ public:
 
 private:
     TypedStreamDecoder(const TypedStreamReader &reader, std::span<const TypedStreamValue> values,
-                       QByteArray context, std::shared_ptr<QString> error);
+                       QByteArrayView context, std::shared_ptr<QString> error);
 
-    const TypedStreamValue *take(char type);
+    // The next value when it has that type. Otherwise null, and the reason
+    // is recorded unless an error is kept already.
+    const TypedStreamValue *take(char type)
+    {
+        if (!atEnd() && m_values[m_next].type == type && !hasError())
+            return &m_values[m_next++];
+        return refuse(type);
+    }
+    const TypedStreamValue *refuse(char type);
     template<typename T>
-    const T *takeAs(char type);
+    const T *takeAs(char type)
+    {
+        const TypedStreamValue *value = take(type);
+        return value ? std::get_if<T>(&value->data) : nullptr;
+    }
     void fail(const QString &message);
+    qint64 integer(char type)
+    {
+        const qint64 *value = takeAs<qint64>(type);
+        return value ? *value : 0;
+    }
 
     const TypedStreamReader *m_reader;
     std::span<const TypedStreamValue> m_values;
     std::size_t m_next = 0;
-    QByteArray m_context;  // whose values, for messages
+    QByteArrayView m_context;  // whose values, for messages; held by the reader or static
     std::shared_ptr<QString> m_error;
 };

@@ -12,18 +12,19 @@
 // values of all its groups in one sequence (held by the reader that made it).
 struct TypedStreamObject
 {
-    TypedStreamClassChain classChain;
+    TypedStreamClassChainView classChain;
     std::span<const TypedStreamValue> values;
 
-    QByteArray className() const
+    const QByteArray &className() const
     {
-        return classChain.isEmpty() ? QByteArray() : classChain.constFirst().name;
+        static const QByteArray none;
+        return classChain.empty() ? none : classChain.front().name;
     }
 
     // Whether the object's class is `name` or a subclass of it.
     bool inherits(QByteArrayView name) const
     {
-        return std::any_of(classChain.cbegin(), classChain.cend(),
+        return std::any_of(classChain.begin(), classChain.end(),
                            [name](const TypedStreamClass &c) { return c.name == name; });
     }
 };

@@ -6,14 +6,20 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstring>
 #include <limits>
-#include <optional>
 #include <memory>
+#include <optional>
+#include <type_traits>
 #include <variant>
 
 using namespace TypedStreamFormat;
+
+// Values own nothing, so the reader keeps and drops them wholesale.
+static_assert(std::is_trivially_copyable_v<TypedStreamValue>);
+static_assert(std::is_trivially_destructible_v<TypedStreamObject>);
 
 namespace {
 
@@ -32,9 +38,65 @@ constexpr qint64 MaxArrayCount = std::numeric_limits<qint32>::max();
 constexpr qint64 WorkPerByte = 4;
 constexpr qint64 WorkAllowance = 1024;
 
-QString hexByte(quint8 byte)
+// Values per block of the reader's value store: small enough to come from the
+// heap rather than from the system page by page.
+constexpr std::size_t ValueBlockSize = 1024;
+
+// The values gathered while an object or a compound value is read. Adding
+// one stays inline; only making room goes out of line.
+class ValueBuffer
 {
-    return QStringLiteral("0x%1").arg(byte, 2, 16, QLatin1Char('0'));
+public:
+    void clear() { m_size = 0; }
+    std::span<const TypedStreamValue> values() const { return {m_values.get(), m_size}; }
+
+    // Builds the value where it is kept. One built on the stack and copied in
+    // would be read back whole before the stores of its parts had landed:
+    // that stall cost more than everything else of adding a value.
+    template<typename T>
+    void append(char type, T data)
+    {
+        if (m_size == m_capacity)
+            grow();
+        TypedStreamValue &value = m_values[m_size++];
+        value.type = type;
+        value.data = data;
+    }
+
+private:
+    Q_NEVER_INLINE void grow()
+    {
+        const std::size_t capacity = std::max<std::size_t>(16, 2 * m_capacity);
+        auto values = std::make_unique<TypedStreamValue[]>(capacity);
+        std::copy_n(m_values.get(), m_size, values.get());
+        m_values = std::move(values);
+        m_capacity = capacity;
+    }
+
+    std::unique_ptr<TypedStreamValue[]> m_values;
+    std::size_t m_size = 0;
+    std::size_t m_capacity = 0;
+};
+
+// A tag or type code as a message shows it.
+struct HexByte
+{
+    quint8 byte;
+};
+
+qint64 shown(qint64 number)
+{
+    return number;
+}
+
+QLatin1StringView shown(const char *text)
+{
+    return QLatin1StringView(text);
+}
+
+QString shown(HexByte hex)
+{
+    return QStringLiteral("0x%1").arg(hex.byte, 2, 16, QLatin1Char('0'));
 }
 
 } // namespace
@@ -42,10 +104,11 @@ QString hexByte(quint8 byte)
 class TypedStreamReader::Parser
 {
 public:
-    Parser(TypedStreamReader &reader, QByteArrayView data)
+    Parser(TypedStreamReader &reader, OpenReferences openReferences)
         : m_reader(reader)
-        , m_data(data)
-        , m_work(WorkPerByte * data.size() + WorkAllowance)
+        , m_data(reader.m_data)
+        , m_work(WorkPerByte * m_data.size() + WorkAllowance)
+        , m_allowOpenReferences(openReferences == OpenReferences::Allow)
     {
     }
 
@@ -55,8 +118,11 @@ public:
     {
         try {
             readHeader();
+            // Top-level objects are read one level deeper: this buffer is free.
+            ValueBuffer &topLevel = m_valueBuffers.front();
             while (!atEnd())
-                readGroup(m_reader.m_topLevelValues);
+                readGroup(topLevel);
+            m_reader.m_topLevelValues.assign(topLevel.values().begin(), topLevel.values().end());
             return {};
         } catch (const Failure &failure) {
             return failure.message;
@@ -86,6 +152,10 @@ private:
         int height = 0;  // levels of objects and compound values, itself included
         bool complete = false;
     };
+    struct ClassLabel
+    {
+        qsizetype index = 0;  // in m_classes
+    };
     // An object whose values are being read.
     struct OpenObject
     {
@@ -95,11 +165,12 @@ private:
     struct ClassEntry
     {
         TypedStreamClass cls;
-        qsizetype superclass = -1;
-        int depth = 1;                // length of the chain from here to the root
-        TypedStreamClassChain chain;  // built when an object first uses it
+        qsizetype superclass = -1;  // in m_classes
+        int depth = 1;              // length of the chain from here to the root
+        TypedStreamClassChainView chain;  // made when first used
     };
-    using Entry = std::variant<ObjectEntry, ClassEntry, QByteArray>;
+    // A C string is its text.
+    using Entry = std::variant<ObjectEntry, ClassLabel, QByteArrayView>;
 
     class Nested
     {
@@ -108,7 +179,7 @@ private:
             : m_parser(parser)
         {
             if (m_parser.m_nesting >= MaxNesting)
-                m_parser.fail(QStringLiteral("values are nested too deeply"));
+                m_parser.fail("values are nested too deeply");
             ++m_parser.m_nesting;
         }
         ~Nested() { --m_parser.m_nesting; }
@@ -119,15 +190,21 @@ private:
         Parser &m_parser;
     };
 
-    [[noreturn]] void fail(const QString &message) const
+    // The message is built here, away from the paths that read sound data:
+    // they stay small enough to be inlined.
+    template<typename... Args>
+    [[noreturn]] Q_DECL_COLD_FUNCTION Q_NEVER_INLINE void fail(const char *format,
+                                                              const Args &...args) const
     {
+        QString message = QString::fromLatin1(format);
+        ((message = message.arg(shown(args))), ...);
         throw Failure{QStringLiteral("at byte %1: %2").arg(m_pos).arg(message)};
     }
 
     void spend(qint64 units)
     {
         if (units > m_work)
-            fail(QStringLiteral("the stream asks for more work than its size allows"));
+            fail("the stream asks for more work than its size allows");
         m_work -= units;
     }
 
@@ -139,7 +216,7 @@ private:
     quint8 peekByte() const
     {
         if (atEnd())
-            fail(QStringLiteral("the data ends early"));
+            fail("the data ends early");
         return quint8(m_data[m_pos]);
     }
 
@@ -150,11 +227,11 @@ private:
         return byte;
     }
 
-    QByteArray readBytes(qint64 count)
+    QByteArrayView readBytes(qint64 count)
     {
         if (count > remaining())
-            fail(QStringLiteral("%1 bytes announced, %2 left").arg(count).arg(remaining()));
-        const QByteArray bytes = m_data.sliced(m_pos, qsizetype(count)).toByteArray();
+            fail("%1 bytes announced, %2 left", count, qint64(remaining()));
+        const QByteArrayView bytes = m_data.sliced(m_pos, qsizetype(count));
         m_pos += qsizetype(count);
         return bytes;
     }
@@ -163,7 +240,7 @@ private:
     T readFixed()
     {
         if (qsizetype(sizeof(T)) > remaining())
-            fail(QStringLiteral("the data ends early"));
+            fail("the data ends early");
         T value;
         std::memcpy(&value, m_data.data() + m_pos, sizeof value);
         m_pos += sizeof value;
@@ -174,7 +251,15 @@ private:
 
     qint64 readInteger() { return readInteger(readByte()); }
 
-    qint64 readInteger(quint8 head)
+    // Most integers are their head byte; only the others take a call.
+    Q_ALWAYS_INLINE qint64 readInteger(quint8 head)
+    {
+        if (head < FirstReservedTag || head > LastReservedTag)
+            return qint8(head);
+        return readTaggedInteger(head);
+    }
+
+    qint64 readTaggedInteger(quint8 head)
     {
         switch (head) {
         case Int16Tag:
@@ -187,11 +272,9 @@ private:
         case NewTag:
         case NilTag:
         case EndOfObjectTag:
-            fail(QStringLiteral("tag %1 where an integer belongs").arg(hexByte(head)));
+            fail("tag %1 where an integer belongs", HexByte{head});
         default:
-            if (head >= FirstReservedTag && head <= LastReservedTag)
-                fail(QStringLiteral("reserved tag %1").arg(hexByte(head)));
-            return qint8(head);
+            fail("reserved tag %1", HexByte{head});
         }
     }
 
@@ -211,7 +294,7 @@ private:
     {
         const qint64 length = readInteger();
         if (length < 0 || length > remaining())
-            fail(QStringLiteral("length %1 does not fit the data").arg(length));
+            fail("length %1 does not fit the data", length);
         return length;
     }
 
@@ -220,7 +303,7 @@ private:
     {
         const qint64 label = readInteger(head);
         if (label < -LabelBias || label >= qint64(tableSize) - LabelBias)
-            fail(QStringLiteral("label %1 refers to no earlier %2").arg(label).arg(QLatin1StringView(what)));
+            fail("label %1 refers to no earlier %2", label, what);
         return qsizetype(indexForLabel(label));
     }
 
@@ -240,7 +323,7 @@ private:
         return readLabel(head, qsizetype(m_sharedStrings.size()), "shared string");
     }
 
-    std::optional<QByteArray> readCString()
+    std::optional<QByteArrayView> readCString()
     {
         const quint8 head = readByte();
         if (head == NilTag)
@@ -248,33 +331,40 @@ private:
         if (head == NewTag) {
             const qsizetype text = readSharedString();
             if (text == NilString)
-                fail(QStringLiteral("a C string without text"));
+                fail("a C string without text");
             m_objectTable.emplace_back(m_sharedStrings[text]);
             return m_sharedStrings[text];
         }
         const qsizetype index =
             readLabel(head, qsizetype(m_objectTable.size()), "C string");
-        const auto *text = std::get_if<QByteArray>(&m_objectTable[index]);
+        const auto *text = std::get_if<QByteArrayView>(&m_objectTable[index]);
         if (!text)
-            fail(QStringLiteral("a C string label refers to an object or class"));
+            fail("a C string label refers to an object or class");
         return *text;
     }
 
     // ---- type strings
 
+    // Indexed by shared string, each parsed once; the types live on the heap,
+    // so references stay valid while nested groups add more.
     const std::vector<Type> &typesOf(qsizetype sharedString)
     {
-        // Indexed by shared string, each parsed once; the types live on the
-        // heap, so references stay valid while nested groups add more.
+        const auto index = std::size_t(sharedString);
+        if (index < m_types.size() && m_types[index])
+            return *m_types[index];
+        return parseTypeString(sharedString);
+    }
+
+    // Kept out of typesOf(), which runs for every group.
+    Q_NEVER_INLINE const std::vector<Type> &parseTypeString(qsizetype sharedString)
+    {
         if (m_types.size() <= std::size_t(sharedString))
             m_types.resize(std::size_t(sharedString) + 1);
         std::unique_ptr<std::vector<Type>> &known = m_types[std::size_t(sharedString)];
-        if (known)
-            return *known;
         const QByteArrayView text = m_sharedStrings[sharedString];
         spend(text.size());
         if (text.isEmpty())
-            fail(QStringLiteral("an empty type string"));
+            fail("an empty type string");
         auto types = std::make_unique<std::vector<Type>>();
         for (qsizetype pos = 0; pos < text.size();)
             types->push_back(parseType(text, pos, 0));
@@ -285,7 +375,7 @@ private:
     Type parseType(QByteArrayView text, qsizetype &pos, int nesting)
     {
         if (nesting > MaxTypeNesting)
-            fail(QStringLiteral("a type string nested too deeply"));
+            fail("a type string nested too deeply");
         const char code = text[pos++];
         switch (code) {
         case 'c': case 'C': case 's': case 'S': case 'i': case 'I': case 'l': case 'L':
@@ -298,14 +388,13 @@ private:
             for (; pos < text.size() && text[pos] >= '0' && text[pos] <= '9'; ++pos) {
                 array.count = array.count * 10 + (text[pos] - '0');
                 if (array.count > MaxArrayCount)
-                    fail(QStringLiteral("an array type of more than %1 elements")
-                             .arg(MaxArrayCount));
+                    fail("an array type of more than %1 elements", MaxArrayCount);
             }
             if (pos == digits || pos == text.size())
-                fail(QStringLiteral("an array type without count or element type"));
+                fail("an array type without count or element type");
             array.members.push_back(parseType(text, pos, nesting + 1));
             if (pos == text.size() || text[pos] != ']')
-                fail(QStringLiteral("an unterminated array type"));
+                fail("an unterminated array type");
             ++pos;
             return array;
         }
@@ -319,16 +408,16 @@ private:
             Type structure{code, 0, {}};
             while (pos == text.size() || text[pos] != '}') {
                 if (pos == text.size())
-                    fail(QStringLiteral("an unterminated struct type"));
+                    fail("an unterminated struct type");
                 structure.members.push_back(parseType(text, pos, nesting + 1));
             }
             ++pos;
             return structure;
         }
         case '(':
-            fail(QStringLiteral("union values are not supported"));
+            fail("union values are not supported");
         default:
-            fail(QStringLiteral("unknown type code %1").arg(hexByte(quint8(code))));
+            fail("unknown type code %1", HexByte{quint8(code)});
         }
     }
 
@@ -338,85 +427,98 @@ private:
     {
         const quint8 version = readByte();
         if (version == OldStreamerVersion)
-            fail(QStringLiteral("streamer version 3 (an older archive form) is not supported"));
+            fail("streamer version 3 (an older archive form) is not supported");
         if (version != StreamerVersion)
-            fail(QStringLiteral("not a typed stream (streamer version %1)").arg(version));
+            fail("not a typed stream (streamer version %1)", qint64(version));
         if (readByte() != SignatureLength)
-            fail(QStringLiteral("not a typed stream (signature length)"));
-        const QByteArray signature = readBytes(SignatureLength);
-        if (signature == BigEndianSignature)
+            fail("not a typed stream (signature length)");
+        const QByteArrayView signature = readBytes(SignatureLength);
+        if (signature == QByteArrayView(BigEndianSignature))
             m_reader.m_bigEndian = true;
-        else if (signature != LittleEndianSignature)
-            fail(QStringLiteral("not a typed stream (signature)"));
+        else if (signature != QByteArrayView(LittleEndianSignature))
+            fail("not a typed stream (signature)");
         m_reader.m_systemVersion = readInteger();
     }
 
-    void readGroup(std::vector<TypedStreamValue> &values)
+    void readGroup(ValueBuffer &values)
     {
         spend(1);
         const qsizetype typeString = readSharedString();
         if (typeString == NilString)
-            fail(QStringLiteral("a group without a type string"));
+            fail("a group without a type string");
         for (const Type &type : typesOf(typeString))
             readValue(type, values);
     }
 
-    void readValue(const Type &type, std::vector<TypedStreamValue> &values)
+    // Numbers and byte strings, nearly every value, are read here, inline;
+    // the rest in readReferenceOrCompound().
+    Q_ALWAYS_INLINE void readValue(const Type &type, ValueBuffer &values)
     {
         spend(1);
-        const auto pushText = [&](const std::optional<QByteArray> &bytes) {
-            if (bytes)
-                values.push_back({type.code, *bytes});
-            else
-                values.push_back({type.code, std::monostate{}});
-        };
         switch (type.code) {
         case 'c':
-            values.push_back({type.code, qint64(qint8(readByte()))});
+            values.append(type.code, qint64(qint8(readByte())));
             return;
         case 'C':
-            values.push_back({type.code, qint64(readByte())});
+            values.append(type.code, qint64(readByte()));
             return;
         // Unsigned values were written as the signed value of the same bits.
         case 's':
-            values.push_back({type.code, qint64(qint16(readInteger()))});
+            values.append(type.code, qint64(qint16(readInteger())));
             return;
         case 'S':
-            values.push_back({type.code, qint64(quint16(readInteger()))});
+            values.append(type.code, qint64(quint16(readInteger())));
             return;
         case 'i':
         case 'l':
-            values.push_back({type.code, qint64(qint32(readInteger()))});
+            values.append(type.code, qint64(qint32(readInteger())));
             return;
         case 'I':
         case 'L':
-            values.push_back({type.code, qint64(quint32(readInteger()))});
+            values.append(type.code, qint64(quint32(readInteger())));
             return;
         case 'q':
         case 'Q':
-            values.push_back({type.code, readInteger()});
+            values.append(type.code, readInteger());
             return;
         case 'f':
         case 'd':
-            values.push_back({type.code, readReal(type.code)});
+            values.append(type.code, readReal(type.code));
             return;
+        case '+':
+            values.append(type.code, readBytes(readLength()));
+            return;
+        default:
+            readReferenceOrCompound(type, values);
+            return;
+        }
+    }
+
+    // Objects, classes, C strings, atoms and selectors, ignored fields,
+    // arrays and structs.
+    void readReferenceOrCompound(const Type &type, ValueBuffer &values)
+    {
+        const auto pushText = [&](std::optional<QByteArrayView> bytes) {
+            if (bytes)
+                values.append(type.code, *bytes);
+            else
+                values.append(type.code, std::monostate{});
+        };
+        switch (type.code) {
         case '@':
             if (const TypedStreamObject *object = readObject())
-                values.push_back({type.code, object});
+                values.append(type.code, object);
             else
-                values.push_back({type.code, std::monostate{}});
+                values.append(type.code, std::monostate{});
             return;
         case '#':
             if (const qsizetype cls = readClass(); cls >= 0)
-                values.push_back({type.code, chainOf(cls)});
+                values.append(type.code, chainOf(cls));
             else
-                values.push_back({type.code, std::monostate{}});
+                values.append(type.code, std::monostate{});
             return;
         case '*':
             pushText(readCString());
-            return;
-        case '+':
-            values.push_back({type.code, readBytes(readLength())});
             return;
         case '%':
         case ':':
@@ -430,27 +532,40 @@ private:
         case '[': {
             const Type &element = type.members.front();
             if (element.code == 'c' || element.code == 'C') {
-                values.push_back({type.code, readBytes(type.count)});
+                values.append(type.code, readBytes(type.count));
                 return;
             }
             const Nested nested(*this);
             noteLevels(0);
-            TypedStreamValue::Members elements;
-            for (qint64 i = 0; i < type.count; ++i)
-                readValue(element, elements);
-            values.push_back({type.code, std::move(elements)});
+            values.append(type.code, gather([&](ValueBuffer &elements) {
+                       for (qint64 i = 0; i < type.count; ++i)
+                           readValue(element, elements);
+                   }));
             return;
         }
         case '{': {
             const Nested nested(*this);
             noteLevels(0);
-            TypedStreamValue::Members fields;
-            for (const Type &field : type.members)
-                readValue(field, fields);
-            values.push_back({type.code, std::move(fields)});
+            values.append(type.code, gather([&](ValueBuffer &fields) {
+                       for (const Type &field : type.members)
+                           readValue(field, fields);
+                   }));
             return;
         }
         }
+    }
+
+    // The values that `read` adds, kept by the reader. They gather in the
+    // buffer of the current nesting level, then are copied into the reader's
+    // store in one piece.
+    template<typename Read>
+    std::span<const TypedStreamValue> gather(const Read &read)
+    {
+        Q_ASSERT(m_nesting <= MaxNesting);  // a Nested guards every caller
+        ValueBuffer &buffer = m_valueBuffers[std::size_t(m_nesting)];
+        buffer.clear();
+        read(buffer);
+        return keep(buffer.values());
     }
 
     // An object in an "@" position: nil (null), a new object or a label.
@@ -466,12 +581,14 @@ private:
             index = readLabel(head, index, "object");
         const auto *entry = std::get_if<ObjectEntry>(&m_objectTable[index]);
         if (!entry)
-            fail(QStringLiteral("an object label refers to a class or C string"));
-        if (!entry->complete)
-            fail(QStringLiteral("an object refers to an object that contains it"));
-        // A reference puts the whole object below this point: a consumer that
-        // follows it recurses as deep as if it were written here.
-        noteLevels(entry->height);
+            fail("an object label refers to a class or C string");
+        if (entry->complete) {
+            // A reference puts the whole object below this point: a consumer
+            // that follows it recurses as deep as if it were written here.
+            noteLevels(entry->height);
+        } else if (!m_allowOpenReferences) {
+            fail("an object refers to an object that contains it");
+        }
         return entry->object;
     }
 
@@ -486,23 +603,18 @@ private:
 
         const qsizetype cls = readClass();
         if (cls < 0)
-            fail(QStringLiteral("an object without a class"));
+            fail("an object without a class");
         object->classChain = chainOf(cls);
-        // The values gather in a buffer kept for this depth, then move into
-        // the object in one allocation of the right size.
-        if (m_valueBuffers.size() <= std::size_t(m_nesting))
-            m_valueBuffers.resize(std::size_t(m_nesting) + 1);
-        std::vector<TypedStreamValue> &buffer = m_valueBuffers[std::size_t(m_nesting)];
-        buffer.clear();
-        while (peekByte() != EndOfObjectTag)
-            readGroup(buffer);
+        object->values = gather([this](ValueBuffer &values) {
+            while (peekByte() != EndOfObjectTag)
+                readGroup(values);
+        });
         ++m_pos;
-        object->values = keep(buffer);
 
         const int height = m_openObjects.back().height + 1;
         m_openObjects.pop_back();
         if (height > MaxNesting)
-            fail(QStringLiteral("objects refer to each other too deeply"));
+            fail("objects refer to each other too deeply");
         ObjectEntry &entry = std::get<ObjectEntry>(m_objectTable[index]);
         entry.height = height;
         entry.complete = true;
@@ -519,64 +631,64 @@ private:
     }
 
     // Reads a class chain up to nil or to a class read before; answers the
-    // table index of its first class, or -1 for nil.
+    // index in m_classes of its first class, or -1 for nil.
     qsizetype readClass()
     {
-        const qsizetype chainStart = qsizetype(m_objectTable.size());
+        const qsizetype tableStart = qsizetype(m_objectTable.size());
+        const qsizetype chainStart = qsizetype(m_classes.size());
         qsizetype superclass = -1;
         for (;;) {
             const quint8 head = readByte();
             if (head == NilTag)
                 break;
             if (head != NewTag) {
-                superclass = readLabel(head, chainStart, "class");
-                if (!std::holds_alternative<ClassEntry>(m_objectTable[superclass]))
-                    fail(QStringLiteral("a class label refers to an object or C string"));
+                const qsizetype index = readLabel(head, tableStart, "class");
+                const auto *label = std::get_if<ClassLabel>(&m_objectTable[index]);
+                if (!label)
+                    fail("a class label refers to an object or C string");
+                superclass = label->index;
                 break;
             }
             const qsizetype name = readSharedString();
             if (name == NilString)
-                fail(QStringLiteral("a class without a name"));
+                fail("a class without a name");
             const qint64 version = readInteger();
             if (version < std::numeric_limits<int>::min()
                 || version > std::numeric_limits<int>::max())
-                fail(QStringLiteral("class version %1 out of range").arg(version));
-            if (qsizetype(m_objectTable.size()) - chainStart >= MaxClassChain)
-                fail(QStringLiteral("a class chain longer than %1").arg(MaxClassChain));
-            const TypedStreamClass cls{m_sharedStrings[name], int(version)};
+                fail("class version %1 out of range", version);
+            if (qsizetype(m_classes.size()) - chainStart >= MaxClassChain)
+                fail("a class chain longer than %1", qint64(MaxClassChain));
+            const TypedStreamClass cls{m_sharedStrings[name].toByteArray(), int(version)};
             recordVersion(cls);
-            m_objectTable.emplace_back(ClassEntry{cls, -1, 1, {}});
+            m_objectTable.emplace_back(ClassLabel{qsizetype(m_classes.size())});
+            m_classes.push_back({cls, -1, 1, {}});
         }
 
-        // The new classes sit side by side in the table, each the superclass
-        // of the one before.
-        const qsizetype chainEnd = qsizetype(m_objectTable.size());
-        const int inherited =
-            superclass < 0 ? 0 : std::get<ClassEntry>(m_objectTable[superclass]).depth;
+        // The new classes sit side by side, each the superclass of the one
+        // before.
+        const qsizetype chainEnd = qsizetype(m_classes.size());
+        const int inherited = superclass < 0 ? 0 : m_classes[superclass].depth;
         if (inherited + (chainEnd - chainStart) > MaxClassChain)
-            fail(QStringLiteral("a class chain longer than %1").arg(MaxClassChain));
+            fail("a class chain longer than %1", qint64(MaxClassChain));
         for (qsizetype i = chainStart; i < chainEnd; ++i) {
-            ClassEntry &entry = std::get<ClassEntry>(m_objectTable[i]);
+            ClassEntry &entry = m_classes[i];
             entry.superclass = i + 1 < chainEnd ? i + 1 : superclass;
             entry.depth = int(chainEnd - i) + inherited;
         }
         return chainEnd > chainStart ? chainStart : superclass;
     }
 
-    // Moves the values into the reader's blocks and answers where they are.
-    std::span<const TypedStreamValue> keep(std::vector<TypedStreamValue> &values)
+    // Copies the values into the reader's blocks and answers where they are.
+    std::span<const TypedStreamValue> keep(std::span<const TypedStreamValue> values)
     {
-        constexpr std::size_t BlockSize = 4096;
         if (values.empty())
             return {};
         auto &blocks = m_reader.m_valueBlocks;
-        if (blocks.empty() || blocks.back().capacity() - blocks.back().size() < values.size()) {
-            blocks.emplace_back().reserve(std::max(BlockSize, values.size()));
-        }
+        if (blocks.empty() || blocks.back().capacity() - blocks.back().size() < values.size())
+            blocks.emplace_back().reserve(std::max(ValueBlockSize, values.size()));
         std::vector<TypedStreamValue> &block = blocks.back();
         const std::size_t start = block.size();
-        block.insert(block.end(), std::make_move_iterator(values.begin()),
-                     std::make_move_iterator(values.end()));
+        block.insert(block.end(), values.begin(), values.end());
         return {block.data() + start, values.size()};
     }
 
@@ -592,17 +704,16 @@ private:
             known.push_back(cls);
     }
 
-    TypedStreamClassChain chainOf(qsizetype classIndex)
+    TypedStreamClassChainView chainOf(qsizetype classIndex)
     {
-        ClassEntry &entry = std::get<ClassEntry>(m_objectTable[classIndex]);
-        if (entry.chain.isEmpty()) {
+        ClassEntry &entry = m_classes[classIndex];
+        if (entry.chain.empty()) {
             spend(entry.depth);
-            entry.chain.reserve(entry.depth);
-            for (qsizetype i = classIndex; i >= 0;) {
-                const ClassEntry &link = std::get<ClassEntry>(m_objectTable[i]);
-                entry.chain.append(link.cls);
-                i = link.superclass;
-            }
+            std::vector<TypedStreamClass> &chain = m_reader.m_classChains.emplace_back();
+            chain.reserve(std::size_t(entry.depth));
+            for (qsizetype i = classIndex; i >= 0; i = m_classes[i].superclass)
+                chain.push_back(m_classes[i].cls);
+            entry.chain = chain;
         }
         return entry.chain;
     }
@@ -611,22 +722,26 @@ private:
     const QByteArrayView m_data;
     qsizetype m_pos = 0;
     qint64 m_work;
+    const bool m_allowOpenReferences;
     int m_nesting = 0;
-    std::vector<QByteArray> m_sharedStrings;
+    std::vector<QByteArrayView> m_sharedStrings;
     std::vector<std::unique_ptr<std::vector<Type>>> m_types;  // parsed type strings
     std::vector<Entry> m_objectTable;
+    std::vector<ClassEntry> m_classes;
     std::vector<OpenObject> m_openObjects;
-    // One per nesting level; a deque, so that a deeper level added while an
-    // outer object is being read leaves the outer buffer where it is.
-    std::deque<std::vector<TypedStreamValue>> m_valueBuffers;
+    // One per nesting level, so that an outer object's buffer stays where it
+    // is while an inner one fills.
+    std::array<ValueBuffer, MaxNesting + 1> m_valueBuffers;
 };
 
-TypedStreamReader::TypedStreamReader(QByteArrayView data)
+TypedStreamReader::TypedStreamReader(QByteArray data, OpenReferences openReferences)
+    : m_data(std::move(data))
 {
-    m_errorString = Parser(*this, data).run();
+    m_errorString = Parser(*this, openReferences).run();
     if (!m_errorString.isEmpty()) {
         m_objects.clear();
         m_valueBlocks.clear();
+        m_classChains.clear();
         m_topLevelValues.clear();
         m_classVersions.clear();
     }

@@ -3,6 +3,7 @@
 #include "storage/TypedStreamObject.h"
 #include "storage/TypedStreamValue.h"
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 
@@ -16,17 +17,32 @@
 // no knowledge of the archived classes is needed. TypedStreamDecoder then
 // walks an object's values the way its initWithCoder: would.
 //
-// The reader owns every object of the tree. An object that the stream holds
-// once and references again is the same TypedStreamObject at every place;
-// a reference to an object that is still being read (a cycle) is refused,
-// so the objects always form an acyclic graph of bounded depth.
+// The reader owns every object of the tree and keeps the data (shared, not
+// copied): texts and bytes are views into it. Data made with
+// QByteArray::fromRawData() must therefore outlive the reader. An object that
+// the stream holds once and references again is the same TypedStreamObject at
+// every place.
 //
 // Any bytes are safe to read: malformed input makes isValid() false with a
 // description in errorString() and leaves the tree empty.
 class TypedStreamReader
 {
 public:
-    explicit TypedStreamReader(QByteArrayView data);
+    // What becomes of a reference to an object that is still being read, one
+    // that contains the reference (a child pointing back to its parent).
+    // Other programs write such archives; this program's files never hold one.
+    enum class OpenReferences {
+        // The stream is refused, so the objects form an acyclic graph of
+        // bounded depth that may be followed without remembering anything.
+        Refuse,
+        // The reference is that object, complete once the stream is read.
+        // The objects may then form cycles: whoever follows references must
+        // remember the objects it has met.
+        Allow,
+    };
+
+    explicit TypedStreamReader(QByteArray data,
+                               OpenReferences openReferences = OpenReferences::Refuse);
     ~TypedStreamReader();
     TypedStreamReader(TypedStreamReader &&) noexcept;
     TypedStreamReader &operator=(TypedStreamReader &&) noexcept;
@@ -52,12 +68,15 @@ public:
 private:
     class Parser;
 
+    QByteArray m_data;
     // A deque keeps every object where it was made while more are added, and
     // allocates them in blocks rather than one by one.
     std::deque<TypedStreamObject> m_objects;
-    // The objects' values, in blocks that never grow past their first
-    // capacity, so that every object's span stays where it points.
+    // The objects' values and members, in blocks that never grow past their
+    // first capacity, so that every span stays where it points.
     std::vector<std::vector<TypedStreamValue>> m_valueBlocks;
+    // Each class chain that objects or values use, built once.
+    std::vector<std::vector<TypedStreamClass>> m_classChains;
     std::vector<TypedStreamValue> m_topLevelValues;
     // Few classes appear in any archive: a short list searched without
     // allocating beats a hash keyed by copies of the name.

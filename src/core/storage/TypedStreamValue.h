@@ -2,18 +2,19 @@
 
 #include "storage/TypedStreamClass.h"
 
-#include <QByteArray>
+#include <QByteArrayView>
 
+#include <span>
 #include <variant>
-#include <vector>
 
 struct TypedStreamObject;
 
-// One decoded value and the type code it was written under. Compound values
-// (structs, arrays of anything but bytes) hold their members in order.
+// One decoded value and the type code it was written under. Whatever a value
+// refers to (its bytes, classes, members or object) is held by the reader
+// that made it, so values are plain data, copied and dropped for nothing.
 struct TypedStreamValue
 {
-    using Members = std::vector<TypedStreamValue>;
+    using Members = std::span<const TypedStreamValue>;
 
     // 'c' 'C' 's' 'S' 'i' 'I' 'l' 'L' 'q' 'Q' 'f' 'd' '@' '#' '*' '+' '%'
     // ':', '[' for arrays, '{' for structs.
@@ -23,12 +24,12 @@ struct TypedStreamValue
     //                                 types as their unsigned value, "Q" as
     //                                 its bit pattern
     // double                          "f" and "d"
-    // QByteArray                      "+" "*" "%" ":" texts, and the raw
+    // QByteArrayView                  "+" "*" "%" ":" texts, and the raw
     //                                 bytes of "[Nc]" and "[NC]"
-    // TypedStreamClassChain           "#"
+    // TypedStreamClassChainView       "#"
     // const TypedStreamObject *       "@" (never null, nil is monostate)
     // Members                         "{...}" and other "[N...]"
-    std::variant<std::monostate, qint64, double, QByteArray, TypedStreamClassChain,
+    std::variant<std::monostate, qint64, double, QByteArrayView, TypedStreamClassChainView,
                  const TypedStreamObject *, Members>
         data;
 };
