@@ -20,6 +20,7 @@ packages=(
   libplist-dev
   poppler-utils
   desktop-file-utils
+  appstream
   shared-mime-info
   xvfb
   xauth

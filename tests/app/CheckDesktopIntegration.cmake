@@ -1,5 +1,6 @@
 # Installs the build into a scratch prefix and checks what a desktop needs
-# there: a valid desktop entry, and a file type that claims "*.Penwick".
+# there: a valid desktop entry, software-centre metadata that validates, and
+# a file type that claims "*.Penwick".
 set(prefix ${BUILD_DIR}/desktop-integration-check)
 file(REMOVE_RECURSE ${prefix})
 
@@ -11,6 +12,7 @@ endif()
 
 foreach(file bin/penwick bin/penwickctl
              share/applications/org.penwick.Penwick.desktop
+             share/metainfo/org.penwick.Penwick.metainfo.xml
              share/mime/packages/org.penwick.Penwick.xml
              share/icons/hicolor/scalable/apps/org.penwick.Penwick.svg)
   if(NOT EXISTS ${prefix}/${file})
@@ -22,6 +24,14 @@ execute_process(COMMAND desktop-file-validate ${prefix}/share/applications/org.p
                 RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE out)
 if(NOT status EQUAL 0 OR out MATCHES "error|warning")
   message(FATAL_ERROR "desktop-file-validate:\n${out}")
+endif()
+
+# Offline: the check must not depend on the network.
+execute_process(COMMAND appstreamcli validate --no-net
+                        ${prefix}/share/metainfo/org.penwick.Penwick.metainfo.xml
+                RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE out)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "appstreamcli validate:\n${out}")
 endif()
 
 # Building the MIME database parses the type; its glob table then maps
