@@ -21,6 +21,7 @@ packages=(
   poppler-utils
   desktop-file-utils
   appstream
+  scdoc
   shared-mime-info
   xvfb
   xauth
