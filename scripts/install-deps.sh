@@ -22,6 +22,8 @@ packages=(
   desktop-file-utils
   appstream
   scdoc
+  zsh
+  fish
   shared-mime-info
   xvfb
   xauth

@@ -14,6 +14,9 @@ foreach(file bin/penwick bin/penwickctl
              share/applications/org.penwick.Penwick.desktop
              share/metainfo/org.penwick.Penwick.metainfo.xml
              share/man/man1/penwick.1 share/man/man1/penwickctl.1
+             share/bash-completion/completions/penwickctl
+             share/zsh/vendor-completions/_penwickctl
+             share/fish/vendor_completions.d/penwickctl.fish
              share/mime/packages/org.penwick.Penwick.xml
              share/icons/hicolor/scalable/apps/org.penwick.Penwick.svg)
   if(NOT EXISTS ${prefix}/${file})

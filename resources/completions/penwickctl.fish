@@ -1,0 +1,34 @@
+# Fish completion for penwickctl. Category and payway names are asked of the
+# running program.
+
+set -l commands categories payways show book list search sort dump
+
+complete -c penwickctl -f
+complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a categories -d "Print the category names"
+complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a payways -d "Print the payway names"
+complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a show -d "Open a window"
+complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a book -d "Book one entry"
+complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a list -d "Print the entries of a month"
+complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a search -d "Search a month"
+complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a sort -d "Sort a month's entries"
+complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a dump -d "Print an archive or a month file"
+complete -c penwickctl -s h -l help -d "Show the usage"
+
+complete -c penwickctl -n "__fish_seen_subcommand_from categories payways list book search sort" -l json -d "Print JSON"
+complete -c penwickctl -n "__fish_seen_subcommand_from show" -a "input list graph balance"
+complete -c penwickctl -n "__fish_seen_subcommand_from book search" -l category -x -a "(penwickctl categories 2>/dev/null)" -d "Category"
+complete -c penwickctl -n "__fish_seen_subcommand_from book search" -l payway -x -a "(penwickctl payways 2>/dev/null)" -d "Payway"
+complete -c penwickctl -n "__fish_seen_subcommand_from book" -l amount -x -d "The amount"
+complete -c penwickctl -n "__fish_seen_subcommand_from book" -l details -x -d "What it was"
+complete -c penwickctl -n "__fish_seen_subcommand_from book" -l year -x -d "The year"
+complete -c penwickctl -n "__fish_seen_subcommand_from book" -l month -x -d "The month"
+complete -c penwickctl -n "__fish_seen_subcommand_from book" -l date -x -d "The day"
+complete -c penwickctl -n "__fish_seen_subcommand_from search" -l days -x -d "Days, as in 1,5,10-12"
+complete -c penwickctl -n "__fish_seen_subcommand_from search" -l words -x -d "Words the details hold"
+complete -c penwickctl -n "__fish_seen_subcommand_from search" -l min -x -d "The smallest amount"
+complete -c penwickctl -n "__fish_seen_subcommand_from search" -l max -x -d "The largest amount"
+complete -c penwickctl -n "__fish_seen_subcommand_from sort" -l key -x -a "Date Category Details Amount Payway" -d "Sort key"
+complete -c penwickctl -n "__fish_seen_subcommand_from sort" -l ascend -d "Smallest first"
+complete -c penwickctl -n "__fish_seen_subcommand_from sort" -l descend -d "Largest first"
+complete -c penwickctl -n "__fish_seen_subcommand_from dump" -l entries -d "Print the entries of a month file"
+complete -c penwickctl -n "__fish_seen_subcommand_from dump" -F
