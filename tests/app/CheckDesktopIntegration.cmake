@@ -49,6 +49,16 @@ file(READ ${prefix}/share/mime/globs2 globs)
 if(NOT globs MATCHES "application/x-penwick-month:\\*\\.Penwick:cs")
   message(FATAL_ERROR "month files are not claimed by the file type:\n${globs}")
 endif()
+# A month file renamed is still known by its content.
+foreach(order month-nil-summary month-big-endian)
+  file(COPY_FILE ${SOURCE_DIR}/fuzz/corpus/typedstream/${order} ${prefix}/renamed.bin)
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env XDG_DATA_DIRS=${prefix}/share
+                          gio info -a standard::content-type ${prefix}/renamed.bin
+                  OUTPUT_VARIABLE out ERROR_VARIABLE out)
+  if(NOT out MATCHES "application/x-penwick-month")
+    message(FATAL_ERROR "a renamed month file (${order}) is not known by its content:\n${out}")
+  endif()
+endforeach()
 file(READ ${prefix}/share/applications/org.penwick.Penwick.desktop entry)
 if(NOT entry MATCHES "MimeType=application/x-penwick-month;")
   message(FATAL_ERROR "the desktop entry does not open month files")
