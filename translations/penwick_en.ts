@@ -786,6 +786,14 @@
             <source>The lists were not changed.</source>
             <translation>The lists were not changed.</translation>
         </message>
+        <message>
+            <source>&amp;Reset Colours</source>
+            <translation>&amp;Reset Colours</translation>
+        </message>
+        <message>
+            <source>Give every category its colour from the palette again</source>
+            <translation>Give every category its colour from the palette again</translation>
+        </message>
     </context>
     <context>
         <name>ScriptApplication</name>

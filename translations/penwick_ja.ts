@@ -784,6 +784,14 @@
             <source>The lists were not changed.</source>
             <translation>リストは変更されませんでした。</translation>
         </message>
+        <message>
+            <source>&amp;Reset Colours</source>
+            <translation>色を元に戻す(&amp;R)</translation>
+        </message>
+        <message>
+            <source>Give every category its colour from the palette again</source>
+            <translation>すべての分類の色を既定の色に戻します</translation>
+        </message>
     </context>
     <context>
         <name>ScriptApplication</name>

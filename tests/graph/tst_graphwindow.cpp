@@ -8,6 +8,7 @@
 #include "graph/LineGraphView.h"
 #include "ledger/DataFolder.h"
 #include "ledger/KController.h"
+#include "model/CategoryPalette.h"
 #include "model/MonthDataList.h"
 #include "model/Notifications.h"
 #include "settings/Settings.h"
@@ -15,6 +16,7 @@
 #include "storage/ColorArchive.h"
 #include "storage/ListFile.h"
 #include "storage/MonthFile.h"
+#include "widgets/RgbaQColor.h"
 
 #include <QComboBox>
 #include <QLocale>
@@ -164,7 +166,8 @@ void TestGraphWindow::tableShowsTheMonthsSums()
     auto *model = child<QTableView>(window.get(), u"listTable"_s)->model();
     QCOMPARE(model->rowCount(), 4);
     QCOMPARE(model->index(0, 0).data().toString(), u"Food"_s);
-    QCOMPARE(model->index(0, 0).data(Qt::DecorationRole).value<QColor>(), QColor(Qt::blue));
+    QCOMPARE(model->index(0, 0).data(Qt::DecorationRole).value<QColor>(),
+             toQColor(CategoryPalette::colorAt(0)));
     QCOMPARE(amountShown(0), 1250);
     QCOMPARE(amountShown(2), 0);
     // Shares of the month's spending, 4250.

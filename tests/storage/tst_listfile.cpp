@@ -1,6 +1,7 @@
 #include "TestDataFolder.h"
 #include "TestHelpers.h"
 
+#include "model/CategoryPalette.h"
 #include "storage/ColorArchive.h"
 #include "storage/ListFile.h"
 #include "storage/PropertyList.h"
@@ -64,7 +65,7 @@ void TestListFile::firstReadWritesTheInitialLists()
 
     const QVariantList colors = ListFile::preferenceDataListForKey(m_folder, ListFile::ColorList);
     QCOMPARE(colors.size(), categories.size());
-    QCOMPARE(colorAt(colors, 0), kBlue);
+    QCOMPARE(colorAt(colors, 0), CategoryPalette::colorAt(0));
     QCOMPARE(colorAt(colors, colors.size() - 1), kGray);
 
     const QVariantList payways = ListFile::preferenceDataListForKey(m_folder, ListFile::PaywayList);
@@ -79,10 +80,13 @@ void TestListFile::initialColoursCycleWithIncomeGray_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<QList<RgbaColor>>("expected");
-    const RgbaColor purple{0.5f, 0, 0.5f, 1}, yellow{1, 1, 0, 1}, red{1, 0, 0, 1},
-        orange{1, 0.5f, 0, 1}, green{0, 1, 0, 1}, brown{0.6f, 0.4f, 0.2f, 1};
-    QTest::newRow("nine categories")
-        << 9 << QList<RgbaColor>{kBlue, purple, yellow, red, orange, green, brown, kBlue, kGray};
+    QList<RgbaColor> palette;
+    for (int i = 0; i < CategoryPalette::size(); ++i)
+        palette.append(CategoryPalette::colorAt(i));
+    QTest::newRow("the palette, then income")
+        << CategoryPalette::size() + 1 << (palette + QList<RgbaColor>{kGray});
+    QTest::newRow("round again") << CategoryPalette::size() + 2
+                                 << (palette + QList<RgbaColor>{palette.first(), kGray});
     QTest::newRow("one category") << 1 << QList<RgbaColor>{kGray};
     QTest::newRow("none") << 0 << QList<RgbaColor>{};
 }
@@ -95,6 +99,12 @@ void TestListFile::initialColoursCycleWithIncomeGray()
     QCOMPARE(archives.size(), expected.size());
     for (qsizetype i = 0; i < archives.size(); ++i)
         QCOMPARE(ColorArchive::decode(archives.at(i)).value_or(RgbaColor{}), expected.at(i));
+    // Fourteen categories never share a colour, and none is income's gray.
+    for (int i = 0; i < CategoryPalette::size(); ++i) {
+        for (int j = i + 1; j < CategoryPalette::size(); ++j)
+            QVERIFY(!(CategoryPalette::colorAt(i) == CategoryPalette::colorAt(j)));
+        QVERIFY(!(CategoryPalette::colorAt(i) == RgbaColor::gray()));
+    }
 }
 
 void TestListFile::namedColoursAreTheMacArchives()

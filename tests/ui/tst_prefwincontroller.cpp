@@ -3,6 +3,7 @@
 
 #include "ledger/DataFolder.h"
 #include "ledger/KController.h"
+#include "model/CategoryPalette.h"
 #include "model/MonthDataList.h"
 #include "model/Notifications.h"
 #include "password/SetPassPanelController.h"
@@ -243,6 +244,15 @@ void TestPrefWinController::duplicateNamesAreRefused()
     QCOMPARE(refused.size(), 5);
     QVERIFY(!model->setData(model->index(4, 0), u"Groceries"_s));
     QCOMPARE(refused.size(), 6);
+
+    // New categories take palette colours no other one has; Reset Colours
+    // gives every category its palette colour by position again.
+    QCOMPARE(model->color(3), toQColor(CategoryPalette::colorAt(3)));
+    QCOMPARE(model->color(4), toQColor(CategoryPalette::colorAt(4)));
+    model->setColor(0, Qt::black);
+    QTest::mouseClick(child<QPushButton>(categoryTable()->parentWidget(), u"resetColors"_s),
+                      Qt::LeftButton);
+    QCOMPARE(model->color(0), toQColor(CategoryPalette::colorAt(0)));
 }
 
 void TestPrefWinController::cancelDropsEveryEdit()

@@ -1,5 +1,6 @@
 #include "storage/ColorArchive.h"
 
+#include "model/CategoryPalette.h"
 #include "storage/TypedStreamObject.h"
 #include "storage/TypedStreamReader.h"
 #include "storage/TypedStreamWriter.h"
@@ -145,19 +146,9 @@ std::optional<RgbaColor> decode(const QByteArray &archive, QString *error)
 
 QList<QByteArray> initialColors(int count)
 {
-    // The named colours of the platform the lists were first made on.
-    static const std::array<RgbaColor, 7> cycle{{
-        {0, 0, 1, 1},          // blue
-        {0.5f, 0, 0.5f, 1},    // purple
-        {1, 1, 0, 1},          // yellow
-        {1, 0, 0, 1},          // red
-        {1, 0.5f, 0, 1},       // orange
-        {0, 1, 0, 1},          // green
-        {0.6f, 0.4f, 0.2f, 1}, // brown
-    }};
     QList<QByteArray> colors;
     for (int i = 0; i + 1 < count; ++i)
-        colors.append(encode(cycle[std::size_t(i) % cycle.size()]));
+        colors.append(encode(CategoryPalette::colorAt(i)));
     if (count > 0)
         colors.append(encodeWhite(0.5f)); // income starts gray
     return colors;

@@ -20,8 +20,8 @@ QByteArray encodeWhite(float white, float alpha = 1);
 // or device, CMYK, and named colours by the value they carry.
 std::optional<RgbaColor> decode(const QByteArray &archive, QString *error = nullptr);
 
-// The initial colour of each of `count` categories: blue, purple, yellow,
-// red, orange, green, brown and round again, with the last (income) gray.
+// The initial colour of each of `count` categories, from the category
+// palette, with the last (income) gray.
 QList<QByteArray> initialColors(int count);
 
 } // namespace ColorArchive

@@ -1,6 +1,7 @@
 #include "prefs/PrefWinController.h"
 
 #include "ledger/KController.h"
+#include "model/CategoryPalette.h"
 #include "model/Notifications.h"
 #include "password/SetPassPanelController.h"
 #include "prefs/ListEditorModel.h"
@@ -8,6 +9,7 @@
 #include "security/PasswordLock.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
+#include "widgets/RgbaQColor.h"
 
 #include <QAbstractItemDelegate>
 #include <QApplication>
@@ -157,6 +159,14 @@ QWidget *PrefWinController::createListTab(ListEditorModel *model, const QString 
         connect(color, &QPushButton::clicked, this,
                 [this, table] { chooseColor(selectedRow(table)); });
         buttons->addWidget(color);
+        auto *reset = new QPushButton(tr("&Reset Colours"), tab);
+        reset->setObjectName(QStringLiteral("resetColors"));
+        reset->setToolTip(tr("Give every category its colour from the palette again"));
+        connect(reset, &QPushButton::clicked, this, [model] {
+            for (int row = 0; row < model->rowCount(); ++row)
+                model->setColor(row, toQColor(CategoryPalette::colorAt(row)));
+        });
+        buttons->addWidget(reset);
     }
     buttons->addStretch();
 
@@ -323,7 +333,9 @@ void PrefWinController::beep()
 
 void PrefWinController::addItem(ListEditorModel *model, QTableView *view)
 {
-    const int row = model->addItem(tr("Untitled"), Qt::black);
+    // A new category takes a palette colour no other one has yet.
+    const int row =
+        model->addItem(tr("Untitled"), toQColor(CategoryPalette::nextColor(model->editor().colors())));
     const QModelIndex name = model->index(row, ListEditorModel::NameColumn);
     view->setCurrentIndex(name);
     m_offeredName = name;
