@@ -1374,5 +1374,17 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
 
 The changes are kept in memory, and Penwick tries again every 30 seconds and at every change. Free some disk space or check the folder's permissions.</translation>
         </message>
+        <message>
+            <source>Penwick found %1 problems.</source>
+            <translation>Penwick found %1 problems.</translation>
+        </message>
+        <message>
+            <source>
+
+Show Details… tells more of each.</source>
+            <translation>
+
+Show Details… tells more of each.</translation>
+        </message>
     </context>
 </TS>

@@ -1372,5 +1372,17 @@ The changes are kept in memory, and Penwick tries again every 30 seconds and at 
 
 変更はメモリに残しており、30 秒ごとと変更のたびに再試行します。ディスクの空きを作るか、フォルダのアクセス権を確かめてください。</translation>
         </message>
+        <message>
+            <source>Penwick found %1 problems.</source>
+            <translation>Penwick は %1 件の問題を見つけました。</translation>
+        </message>
+        <message>
+            <source>
+
+Show Details… tells more of each.</source>
+            <translation>
+
+「詳細を表示…」でそれぞれの詳しい内容を確かめられます。</translation>
+        </message>
     </context>
 </TS>

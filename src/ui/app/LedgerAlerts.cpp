@@ -12,6 +12,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 // "May 2006" for a month file's path, or the file's name when it names no month.
@@ -172,12 +174,26 @@ void LedgerAlerts::reportMonthFileNotWritten(const QString &path, const QString 
 
 void LedgerAlerts::report(const QString &text, const QString &details)
 {
+    m_reportTexts.append(text);
+    m_reportDetails.append(text + u"\n"_s + details);
+    if (m_reportBox) {
+        m_reportBox->setText(tr("Penwick found %1 problems.").arg(m_reportTexts.size()));
+        m_reportBox->setInformativeText(m_reportTexts.join(u'\n')
+                                        + tr("\n\nShow Details… tells more of each."));
+        m_reportBox->setDetailedText(m_reportDetails.join(u"\n\n"_s));
+        return;
+    }
     // Window-modal on the window in front, so that the user sees it where
     // they are working and the other windows stay usable.
-    auto *box = new QMessageBox(QMessageBox::Warning, tr("Penwick"), text, QMessageBox::Ok,
-                                QApplication::activeWindow());
-    box->setInformativeText(details);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowModality(box->parentWidget() ? Qt::WindowModal : Qt::ApplicationModal);
-    box->open();
+    m_reportBox = new QMessageBox(QMessageBox::Warning, tr("Penwick"), text, QMessageBox::Ok,
+                                  QApplication::activeWindow());
+    m_reportBox->setInformativeText(details);
+    m_reportBox->setAttribute(Qt::WA_DeleteOnClose);
+    m_reportBox->setWindowModality(m_reportBox->parentWidget() ? Qt::WindowModal
+                                                               : Qt::ApplicationModal);
+    connect(m_reportBox, &QMessageBox::finished, this, [this] {
+        m_reportTexts.clear();
+        m_reportDetails.clear();
+    });
+    m_reportBox->open();
 }

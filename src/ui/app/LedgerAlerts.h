@@ -27,6 +27,9 @@ public:
     void askAboutUnsavedMonths(std::function<void(QuitAnswer)> answer);
     // Rescue folders of an earlier run, offered back one by one.
     void offerRescuedMonths();
+    // A report while another is still open joins it, so that what is found
+    // at once (several unreadable months at start) is one dialog, not a
+    // stack of them.
     void report(const QString &text, const QString &details);
 
 private:
@@ -39,4 +42,7 @@ private:
     QSet<QString> m_reportedUnreadable;
     QSet<QString> m_reportedNotWritten;
     QPointer<QMessageBox> m_unsavedSheet;
+    QPointer<QMessageBox> m_reportBox;
+    QStringList m_reportTexts;
+    QStringList m_reportDetails;
 };
