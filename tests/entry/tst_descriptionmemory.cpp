@@ -55,7 +55,6 @@ private slots:
     void fullCommonListKeepsRareDescriptionsRecent();
     void recentListIsNewestFirstAndHoldsFive();
     void promotedDescriptionStaysRecentToo();
-    void rebookingReplacesAmountAndCategory();
     void offeredItemsAreCommonThenRecent();
     void oversizedStoredCommonListOffersFive();
     void survivesTheSettings();
@@ -68,19 +67,20 @@ void TestDescriptionMemory::firstBookingGoesToTheCommonListOnly()
 {
     DescriptionMemory memory;
     book(memory, u"Lunch"_s, 2, 800);
-    QCOMPARE(memory.commonDescriptions().size(), 1);
-    const Record lunch = memory.commonDescriptions().first();
-    QCOMPARE(lunch.details, u"Lunch"_s);
-    QCOMPARE(lunch.category, 2);
-    QCOMPARE(lunch.amount, 800.0f);
-    QCOMPARE(lunch.count, 1);
+    QCOMPARE(memory.commonDescriptions(), (QList<Record>{Record{u"Lunch"_s, 2, 800, 1}}));
     QVERIFY(memory.recentDescriptions().isEmpty());
-    QCOMPARE(memory.commonDescriptionsDB().value(u"Lunch"_s), lunch);
+    QCOMPARE(memory.commonDescriptionsDB().value(u"Lunch"_s), memory.itemAt(0));
 
     // An empty description is never remembered.
     book(memory, QString());
     QCOMPARE(memory.numberOfItems(), 1);
     QCOMPARE(memory.commonDescriptionsDB().size(), 1);
+
+    // Booked again, the amount and category are replaced.
+    book(memory, u"Lunch"_s, -1, 950);
+    QCOMPARE(memory.numberOfItems(), 1);
+    QCOMPARE(memory.itemAt(0), (Record{u"Lunch"_s, -1, 950, 2}));
+    QCOMPARE(memory.commonDescriptionsDB().value(u"Lunch"_s), memory.itemAt(0));
 }
 
 void TestDescriptionMemory::commonListOrdersByCountAndTiesGoToTheLatest()
@@ -152,19 +152,6 @@ void TestDescriptionMemory::promotedDescriptionStaysRecentToo()
     for (const QString &d : {u"A"_s, u"B"_s, u"C"_s, u"D"_s, u"E"_s})
         book(memory, d);
     QCOMPARE(offered(memory).count(u"Rent"_s), 1);
-}
-
-void TestDescriptionMemory::rebookingReplacesAmountAndCategory()
-{
-    DescriptionMemory memory;
-    book(memory, u"Lunch"_s, 2, 800);
-    book(memory, u"Lunch"_s, -1, 950);
-    QCOMPARE(memory.numberOfItems(), 1);
-    const Record lunch = memory.itemAt(0);
-    QCOMPARE(lunch.amount, 950.0f);
-    QCOMPARE(lunch.category, -1);
-    QCOMPARE(lunch.count, 2);
-    QCOMPARE(memory.commonDescriptionsDB().value(u"Lunch"_s), lunch);
 }
 
 void TestDescriptionMemory::offeredItemsAreCommonThenRecent()

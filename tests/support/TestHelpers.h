@@ -1,6 +1,9 @@
 #pragma once
 
+#include "ledger/DataFolder.h"
+#include "model/MonthDataList.h"
 #include "model/PaymentData.h"
+#include "storage/MonthFile.h"
 
 #include <QFile>
 #include <QStringList>
@@ -28,4 +31,38 @@ inline QStringList detailsOf(const PaymentArray &records)
     for (const PaymentDataPtr &r : records)
         texts.append(r->details());
     return texts;
+}
+
+inline PaymentDataPtr entry(int year, int month, int date, const QString &details,
+                            float amount = 100, int category = 0, int payway = 0)
+{
+    return std::make_shared<PaymentData>(year, month, date, category, details, amount, payway);
+}
+
+// A month file as another program (or an older run of this one) left it.
+inline void writeMonthFile(const QString &folder, int year, int month, const PaymentArray &records,
+                           const QString &summary = {})
+{
+    MonthDataList list(year, month);
+    list.setDataListArray(records);
+    list.setSummary(summary);
+    writeBytes(DataFolder::filePathForYear(folder, year, month), MonthFile::encode(list));
+}
+
+// The records of a month file as it is on the disk; empty when unreadable.
+inline QStringList detailsOnDisk(const QString &folder, int year, int month)
+{
+    const auto list = MonthFile::decode(
+        readBytes(DataFolder::filePathForYear(folder, year, month)), nullptr);
+    return list ? detailsOf(list->dataListArray()) : QStringList();
+}
+
+// A child a test cannot go on without.
+template<typename T>
+T *child(const QObject *parent, const QString &name = {})
+{
+    auto *found = parent->findChild<T *>(name);
+    if (!found)
+        qFatal("no %s named %s", T::staticMetaObject.className(), qPrintable(name));
+    return found;
 }

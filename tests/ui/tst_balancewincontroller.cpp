@@ -2,11 +2,8 @@
 #include "TestHelpers.h"
 
 #include "balance/BalanceWinController.h"
-#include "ledger/DataFolder.h"
 #include "ledger/KController.h"
-#include "model/MonthDataList.h"
 #include "storage/ListFile.h"
-#include "storage/MonthFile.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -25,12 +22,10 @@ constexpr int kIncome = 2; // Food, Rent, Income
 void writeMonth(const QString &folder, int year, int month,
                 const QList<std::pair<int, float>> &entries)
 {
-    MonthDataList list(year, month);
     PaymentArray records;
     for (const auto &[category, amount] : entries)
-        records.append(std::make_shared<PaymentData>(year, month, 1, category, u"x"_s, amount, 0));
-    list.setDataListArray(records);
-    writeBytes(DataFolder::filePathForYear(folder, year, month), MonthFile::encode(list));
+        records.append(entry(year, month, 1, u"x"_s, amount, category));
+    writeMonthFile(folder, year, month, records);
 }
 
 // Spending, income and balance as the box of the offset shows them.

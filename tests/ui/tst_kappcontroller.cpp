@@ -29,7 +29,6 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
-#include <QVBoxLayout>
 
 #include <cerrno>
 #include <cstring>
@@ -108,11 +107,8 @@ private slots:
     void openFileTakesOnlyMonthFiles();
     void storeProblemsAreToldOncePerFile();
     void startWindowsFollowTheSettings();
-    void firstStartOpensPreferencesAndInput();
-    void openedMonthFileShowsInTheListWindow();
     void typedInputHoldsTheQuit();
     void unfinishedListChangeIsReportedAtStart();
-    void everyWindowGetsTheMenu();
     void unsavedMonthsHoldTheQuit();
 
 private:
@@ -121,10 +117,9 @@ private:
 
 void TestKAppController::init()
 {
+    QSettings(u"Penwick"_s, u"Penwick"_s).clear();
     m_home.freshDataFolder();
-    Settings settings;
-    settings.setVersion(1);
-    settings.setPasswordHash(QString());
+    Settings().setVersion(1);
 }
 
 void TestKAppController::cleanup()
@@ -200,30 +195,45 @@ void TestKAppController::aPasswordSetInCancelledPreferencesLocksTheNextStart()
 
 void TestKAppController::firstStartSetsUpTheDataFolder()
 {
-    {
-        QSettings raw(u"Penwick"_s, u"Penwick"_s);
-        raw.clear();
-    }
+    QSettings(u"Penwick"_s, u"Penwick"_s).clear();
     KAppController controller;
     controller.confirmPassword();
     Settings settings;
     QCOMPARE(settings.version(), 1);
-    const QString folder = settings.dataPath();
-    QVERIFY(!folder.isEmpty());
-    QVERIFY(QFileInfo(folder).isDir());
-    QVERIFY(QFileInfo::exists(ListFile::dictionaryPathString(folder)));
+    QVERIFY(QFileInfo(settings.dataPath()).isDir());
+    QVERIFY(QFileInfo::exists(ListFile::dictionaryPathString(settings.dataPath())));
     QCOMPARE(controller.ledger()->categoryList().size(), 14);
+
+    // Preferences and the input window open.
+    const auto preferences = visibleTopLevels<PrefWinController>();
+    QCOMPARE(preferences.size(), 1);
+    QVERIFY(preferences.first()->firstSetting());
+    QCOMPARE(visibleTopLevels<InputWinController>().size(), 1);
+
+    // OK with the closing day untouched stores no day and announces none.
+    QSignalSpy lastDate(Notifications::instance(), &Notifications::lastDateHasChanged);
+    preferences.first()->accept();
+    QVERIFY(!QSettings(u"Penwick"_s, u"Penwick"_s).contains(u"monthLastDate"_s));
+    QCOMPARE(lastDate.size(), 0);
 }
 
 void TestKAppController::openFileTakesOnlyMonthFiles()
 {
     KAppController controller;
-    const QString folder = m_home.dataFolder();
-    // Taken before start-up too: it waits for the password.
-    QVERIFY(controller.openFile(folder + u"/Data_2006_5.Penwick"_s));
+    // Given before the program has started: it waits, then shows.
+    QVERIFY(controller.openFile(u"/elsewhere/Data_2006_5.Penwick"_s));
+    QVERIFY(visibleTopLevels<ListWinController>().isEmpty());
     controller.confirmPassword();
-    QVERIFY(controller.openFile(folder + u"/Data_2006_5.Penwick"_s));
+    auto lists = visibleTopLevels<ListWinController>();
+    QCOMPARE(lists.size(), 1);
+    QCOMPARE(QDate(lists.first()->year(), lists.first()->month(), 1), QDate(2006, 5, 1));
+
+    QVERIFY(controller.openFile(m_home.filePath(u"Data_2007_12.Penwick"_s)));
+    QCOMPARE(visibleTopLevels<ListWinController>().size(), 1);
+    QCOMPARE(QDate(lists.first()->year(), lists.first()->month(), 1), QDate(2007, 12, 1));
+
     // A name that gives no month is still a month file by its extension.
+    const QString folder = m_home.dataFolder();
     QVERIFY(controller.openFile(u"/elsewhere/Household.Penwick"_s));
     QVERIFY(!controller.openFile(folder + u"/Data_2006_5.penwick"_s));
     QVERIFY(!controller.openFile(folder + u"/Data.penwick"_s));
@@ -281,42 +291,6 @@ void TestKAppController::startWindowsFollowTheSettings()
     QCOMPARE(visibleTopLevels<InputWinController>().size(), 1);
 }
 
-void TestKAppController::firstStartOpensPreferencesAndInput()
-{
-    QSettings(u"Penwick"_s, u"Penwick"_s).clear();
-    KAppController controller;
-    controller.confirmPassword();
-    const auto preferences = visibleTopLevels<PrefWinController>();
-    QCOMPARE(preferences.size(), 1);
-    QVERIFY(preferences.first()->firstSetting());
-    QCOMPARE(visibleTopLevels<InputWinController>().size(), 1);
-
-    // OK with the closing day untouched stores no day and announces none.
-    QSignalSpy lastDate(Notifications::instance(), &Notifications::lastDateHasChanged);
-    preferences.first()->accept();
-    QVERIFY(!preferences.first()->isVisible());
-    QVERIFY(!QSettings(u"Penwick"_s, u"Penwick"_s).contains(u"monthLastDate"_s));
-    QCOMPARE(lastDate.size(), 0);
-}
-
-void TestKAppController::openedMonthFileShowsInTheListWindow()
-{
-    KAppController controller;
-    // Given before the program has started: it waits, then shows.
-    QVERIFY(controller.openFile(u"/elsewhere/Data_2006_5.Penwick"_s));
-    QVERIFY(visibleTopLevels<ListWinController>().isEmpty());
-    controller.confirmPassword();
-    auto lists = visibleTopLevels<ListWinController>();
-    QCOMPARE(lists.size(), 1);
-    QCOMPARE(lists.first()->year(), 2006);
-    QCOMPARE(lists.first()->month(), 5);
-
-    QVERIFY(controller.openFile(m_home.filePath(u"Data_2007_12.Penwick"_s)));
-    QCOMPARE(visibleTopLevels<ListWinController>().size(), 1);
-    QCOMPARE(lists.first()->year(), 2007);
-    QCOMPARE(lists.first()->month(), 12);
-}
-
 void TestKAppController::typedInputHoldsTheQuit()
 {
     KAppController controller;
@@ -345,22 +319,6 @@ void TestKAppController::unfinishedListChangeIsReportedAtStart()
     QCOMPARE(boxes.size(), 1);
     QVERIFY(boxes.first()->text().contains(u"could not be finished"_s));
     QVERIFY(boxes.first()->informativeText().contains(u".penwick-conversion"_s));
-}
-
-void TestKAppController::everyWindowGetsTheMenu()
-{
-    KAppController controller;
-    QWidget window;
-    new QVBoxLayout(&window);
-    QMenuBar *bar = controller.installMenuBar(&window);
-    QCOMPARE(window.layout()->menuBar(), bar);
-    QStringList titles;
-    for (QAction *menu : bar->actions())
-        titles.append(menu->text());
-    QCOMPARE(titles, (QStringList{u"&File"_s, u"&Window"_s, u"&Help"_s}));
-    // Before start-up the windows' items are there but cannot be chosen.
-    QAction *list = actionWithTag(bar, KAppController::ListWindowTag);
-    QVERIFY(list && !list->isEnabled());
 }
 
 void TestKAppController::unsavedMonthsHoldTheQuit()
