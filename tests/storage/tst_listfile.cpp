@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -32,6 +33,7 @@ class TestListFile : public QObject
 
 private slots:
     void init();
+    void firstReadWritesTheInitialLists_data();
     void firstReadWritesTheInitialLists();
     void initialColoursCycleWithIncomeGray_data();
     void initialColoursCycleWithIncomeGray();
@@ -52,14 +54,30 @@ void TestListFile::init()
     m_folder = m_home.freshDataFolder();
 }
 
+void TestListFile::firstReadWritesTheInitialLists_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("income");
+    QTest::addColumn<QString>("cash");
+    QTest::newRow("English") << QLocale(QLocale::English) << u"Income"_s << u"Cash"_s;
+    // A new folder started in Japanese gets its lists in Japanese.
+    QTest::newRow("Japanese") << QLocale(QLocale::Japanese) << u"収入"_s << u"現金"_s;
+}
+
 void TestListFile::firstReadWritesTheInitialLists()
 {
+    QFETCH(QLocale, locale);
+    QFETCH(QString, income);
+    QFETCH(QString, cash);
+    const QLocale before;
+    QLocale::setDefault(locale);
+    const auto restore = qScopeGuard([&before] { QLocale::setDefault(before); });
     const QString path = ListFile::dictionaryPathString(m_folder);
     QVERIFY(!QFile::exists(path));
     const QVariantList categories = ListFile::preferenceDataListForKey(m_folder, ListFile::CategoryList);
     QVERIFY(QFile::exists(path));
     QVERIFY(categories.size() >= 8);
-    QCOMPARE(categories.constLast().toString(), u"Income"_s);
+    QCOMPARE(categories.constLast().toString(), income);
     for (const QVariant &name : categories)
         QVERIFY(!name.toString().isEmpty());
 
@@ -69,7 +87,7 @@ void TestListFile::firstReadWritesTheInitialLists()
     QCOMPARE(colorAt(colors, colors.size() - 1), kGray);
 
     const QVariantList payways = ListFile::preferenceDataListForKey(m_folder, ListFile::PaywayList);
-    QVERIFY(payways.contains(u"Cash"_s));
+    QCOMPARE(payways.constFirst().toString(), cash);
     // The file is the XML form.
     QVERIFY(readBytes(path).startsWith("<?xml"));
 

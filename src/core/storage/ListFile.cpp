@@ -4,11 +4,14 @@
 #include "storage/DurableFile.h"
 #include "storage/PropertyList.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QCoreApplication>
+#include <QLocale>
 
 #include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace ListFile {
 
@@ -19,9 +22,11 @@ QString tr(const char *text)
     return QCoreApplication::translate("ListFile", text);
 }
 
-QVariantList listResource(const QString &path)
+// A list of the initial ones, in the user's language when it has them.
+QVariantList listResource(const QString &name)
 {
-    QFile file(path);
+    const QString translated = QStringLiteral(":/%1/%2").arg(QLocale().name().section(u'_', 0, 0), name);
+    QFile file(QFile::exists(translated) ? translated : u":/"_s + name);
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return PropertyList::fromData(file.readAll()).toList();
@@ -75,14 +80,14 @@ QString dataDictionaryPath(const QString &folder)
 bool makeInitialDataToPath(const QString &folder, QString *error)
 {
     QDir().mkpath(folder);
-    const QVariantList categories = listResource(QStringLiteral(":/DefaultCategory.plist"));
+    const QVariantList categories = listResource(u"DefaultCategory.plist"_s);
     QVariantList colors;
     for (const QByteArray &color : ColorArchive::initialColors(int(categories.size())))
         colors.append(color);
     const QVariantMap dictionary{
         {CategoryList, categories},
         {ColorList, colors},
-        {PaywayList, listResource(QStringLiteral(":/DefaultPayway.plist"))},
+        {PaywayList, listResource(u"DefaultPayway.plist"_s)},
     };
     return writeDictionary(dictionaryPathString(folder), dictionary, error);
 }
