@@ -38,6 +38,14 @@ void setError(QString *error, const QString &text)
         *error = text;
 }
 
+QStringList namesUnder(const QVariantMap &lists, QLatin1StringView key)
+{
+    QStringList names;
+    for (const QVariant &name : lists.value(key).toList())
+        names.append(name.toString());
+    return names;
+}
+
 // The month file the list would be written as, renumbered. The cached list
 // itself stays as it is until the folder holds the new numbers.
 QByteArray encodeConverted(const MonthDataList &month, const ListConversion &conversion)
@@ -600,20 +608,15 @@ void KController::moveData(const PaymentDataPtr &record, MonthDataList *fromList
 
 void KController::readListPreference()
 {
+    // One read of the list file serves the check and both lists.
     QString problem;
-    if (ListFile::read(dataFolderPath(), &problem))
+    const std::optional<QVariantMap> lists = ListFile::read(dataFolderPath(), &problem);
+    if (lists)
         problem.clear();
     if (std::exchange(m_listFileProblem, problem) != problem)
         emit listFileUnreadable(ListFile::dictionaryPathString(dataFolderPath()), problem);
-    const auto names = [this](QLatin1StringView key) {
-        QStringList list;
-        const QVariantList values = ListFile::preferenceDataListForKey(dataFolderPath(), key);
-        for (const QVariant &value : values)
-            list.append(value.toString());
-        return list;
-    };
-    m_categoryList = names(ListFile::CategoryList);
-    m_paywayList = names(ListFile::PaywayList);
+    m_categoryList = lists ? namesUnder(*lists, ListFile::CategoryList) : QStringList();
+    m_paywayList = lists ? namesUnder(*lists, ListFile::PaywayList) : QStringList();
 }
 
 StoredLists KController::storedLists()
@@ -622,12 +625,10 @@ StoredLists KController::storedLists()
     const std::optional<QVariantMap> lists = ListFile::read(dataFolderPath());
     if (!lists)
         return stored;
-    for (const QVariant &name : lists->value(ListFile::CategoryList).toList())
-        stored.categories.append(name.toString());
+    stored.categories = namesUnder(*lists, ListFile::CategoryList);
     for (const QVariant &archive : lists->value(ListFile::ColorList).toList())
         stored.colors.append(ColorArchive::decode(archive.toByteArray()).value_or(RgbaColor::gray()));
-    for (const QVariant &name : lists->value(ListFile::PaywayList).toList())
-        stored.payways.append(name.toString());
+    stored.payways = namesUnder(*lists, ListFile::PaywayList);
     return stored;
 }
 

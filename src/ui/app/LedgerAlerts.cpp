@@ -174,13 +174,18 @@ void LedgerAlerts::reportMonthFileNotWritten(const QString &path, const QString 
 
 void LedgerAlerts::report(const QString &text, const QString &details)
 {
-    m_reportTexts.append(text);
-    m_reportDetails.append(text + u"\n"_s + details);
+    m_reports.append({text, details});
     if (m_reportBox) {
-        m_reportBox->setText(tr("Penwick found %1 problems.").arg(m_reportTexts.size()));
-        m_reportBox->setInformativeText(m_reportTexts.join(u'\n')
+        QStringList texts;
+        QStringList everything;
+        for (const auto &[reported, reason] : std::as_const(m_reports)) {
+            texts.append(reported);
+            everything.append(reported + u'\n' + reason);
+        }
+        m_reportBox->setText(tr("Penwick found %1 problems.").arg(m_reports.size()));
+        m_reportBox->setInformativeText(texts.join(u'\n')
                                         + tr("\n\nShow Details… tells more of each."));
-        m_reportBox->setDetailedText(m_reportDetails.join(u"\n\n"_s));
+        m_reportBox->setDetailedText(everything.join(u"\n\n"_s));
         return;
     }
     // Window-modal on the window in front, so that the user sees it where
@@ -191,9 +196,6 @@ void LedgerAlerts::report(const QString &text, const QString &details)
     m_reportBox->setAttribute(Qt::WA_DeleteOnClose);
     m_reportBox->setWindowModality(m_reportBox->parentWidget() ? Qt::WindowModal
                                                                : Qt::ApplicationModal);
-    connect(m_reportBox, &QMessageBox::finished, this, [this] {
-        m_reportTexts.clear();
-        m_reportDetails.clear();
-    });
+    connect(m_reportBox, &QMessageBox::finished, this, [this] { m_reports.clear(); });
     m_reportBox->open();
 }

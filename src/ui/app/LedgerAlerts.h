@@ -43,6 +43,6 @@ private:
     QSet<QString> m_reportedNotWritten;
     QPointer<QMessageBox> m_unsavedSheet;
     QPointer<QMessageBox> m_reportBox;
-    QStringList m_reportTexts;
-    QStringList m_reportDetails;
+    // What the open report holds: each text with its details.
+    QList<std::pair<QString, QString>> m_reports;
 };
