@@ -5,13 +5,13 @@
 #
 #   bench/startup.sh [BUILD_DIR] [RUNS]
 #
-# Needs xvfb-run and xwininfo (installed by scripts/install-deps.sh).
+# Needs Xvfb and xwininfo (installed by scripts/install-deps.sh).
 set -euo pipefail
 
 build=${1:-build}
 runs=${2:-10}
 if [[ -z ${DISPLAY:-} ]]; then
-  exec xvfb-run -a -s "-screen 0 1280x800x24" "$0" "$build" "$runs"
+  exec "$(dirname "$0")/../scripts/with-own-x-server.sh" "$0" "$build" "$runs"
 fi
 
 scratch=$(mktemp -d)

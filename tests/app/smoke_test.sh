@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Starts the real program on an X server and a session bus of its own (run
-# under xvfb-run and dbus-run-session) with a home of its own, and checks what
-# a user would: its windows appear, a second launch on the same data folder
+# under scripts/with-own-x-server.sh and dbus-run-session) with a home of its
+# own, and checks what a user would: its windows appear, a second launch on the same data folder
 # hands over and exits, scripts reach it, the program quits cleanly when told
 # to, and a killed instance does not lock the folder for the next one.
 set -euo pipefail
@@ -24,7 +24,12 @@ unset QT_QPA_PLATFORM
 mkdir -p "$XDG_CONFIG_HOME/Penwick" "$XDG_RUNTIME_DIR" "$HOME/data"
 chmod 700 "$XDG_RUNTIME_DIR"
 
-fail() { echo "smoke test: $*" >&2; exit 1; }
+fail() {
+  echo "smoke test: $*" >&2
+  echo "--- what the program printed:" >&2
+  cat "$scratch/stderr.log" >&2 || true
+  exit 1
+}
 
 # Waits up to ten seconds for a top-level window whose title starts with $1.
 wait_for_window() {
