@@ -307,6 +307,10 @@
             <source>A change of the category and payway lists could not be finished.</source>
             <translation>A change of the category and payway lists could not be finished.</translation>
         </message>
+        <message>
+            <source>Not every change made before Penwick stopped could be brought back.</source>
+            <translation>Not every change made before Penwick stopped could be brought back.</translation>
+        </message>
     </context>
     <context>
         <name>KController</name>
@@ -361,6 +365,26 @@
         <message>
             <source>The category and payway lists are being changed; try again when that is done.</source>
             <translation>The category and payway lists are being changed; try again when that is done.</translation>
+        </message>
+        <message>
+            <source>The changes to %1/%2 could not be read back.</source>
+            <translation>The changes to %1/%2 could not be read back.</translation>
+        </message>
+        <message>
+            <source>The journal of changes %1 is damaged; it was kept as %2.</source>
+            <translation>The journal of changes %1 is damaged; it was kept as %2.</translation>
+        </message>
+        <message>
+            <source>The last change before Penwick stopped was being written at that moment and is not in the book.</source>
+            <translation>The last change before Penwick stopped was being written at that moment and is not in the book.</translation>
+        </message>
+        <message>
+            <source>Some of the changes brought back could not be written to their months yet; they stay safe in the journal.</source>
+            <translation>Some of the changes brought back could not be written to their months yet; they stay safe in the journal.</translation>
+        </message>
+        <message>
+            <source>The journal of changes %1 could not be removed, so none of the stored entries has been renumbered and the lists are unchanged.</source>
+            <translation>The journal of changes %1 could not be removed, so none of the stored entries has been renumbered and the lists are unchanged.</translation>
         </message>
     </context>
     <context>
@@ -1385,6 +1409,25 @@ Show Details… tells more of each.</source>
             <translation>
 
 Show Details… tells more of each.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChangeJournal</name>
+        <message>
+            <source>%1 could not be opened: %2</source>
+            <translation>%1 could not be opened: %2</translation>
+        </message>
+        <message>
+            <source>%1 could not be written: %2</source>
+            <translation>%1 could not be written: %2</translation>
+        </message>
+        <message>
+            <source>%1 could not be removed: %2</source>
+            <translation>%1 could not be removed: %2</translation>
+        </message>
+        <message>
+            <source>%1 could not be read: %2</source>
+            <translation>%1 could not be read: %2</translation>
         </message>
     </context>
 </TS>

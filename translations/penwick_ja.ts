@@ -306,6 +306,10 @@
             <source>A change of the category and payway lists could not be finished.</source>
             <translation>分類と支払い方法のリストの変更を完了できませんでした。</translation>
         </message>
+        <message>
+            <source>Not every change made before Penwick stopped could be brought back.</source>
+            <translation>Penwick が終了する前の変更のうち、一部を戻せませんでした。</translation>
+        </message>
     </context>
     <context>
         <name>KController</name>
@@ -360,6 +364,26 @@
         <message>
             <source>The category and payway lists are being changed; try again when that is done.</source>
             <translation>分類と支払い方法のリストを変更中です。終わってからもう一度お試しください。</translation>
+        </message>
+        <message>
+            <source>The changes to %1/%2 could not be read back.</source>
+            <translation>%2年%1月の変更を読み戻せませんでした。</translation>
+        </message>
+        <message>
+            <source>The journal of changes %1 is damaged; it was kept as %2.</source>
+            <translation>変更記録 %1 が壊れています。%2 として残しました。</translation>
+        </message>
+        <message>
+            <source>The last change before Penwick stopped was being written at that moment and is not in the book.</source>
+            <translation>Penwick が終了したとき最後の変更は書き込みの途中だったため、帳簿には入っていません。</translation>
+        </message>
+        <message>
+            <source>Some of the changes brought back could not be written to their months yet; they stay safe in the journal.</source>
+            <translation>戻した変更の一部はまだ月のファイルに書き込めていません。変更記録に安全に残っています。</translation>
+        </message>
+        <message>
+            <source>The journal of changes %1 could not be removed, so none of the stored entries has been renumbered and the lists are unchanged.</source>
+            <translation>変更記録 %1 を削除できなかったため、保存済みの記帳は番号を付け直しておらず、リストも変わっていません。</translation>
         </message>
     </context>
     <context>
@@ -1383,6 +1407,25 @@ Show Details… tells more of each.</source>
             <translation>
 
 「詳細を表示…」でそれぞれの詳しい内容を確かめられます。</translation>
+        </message>
+    </context>
+    <context>
+        <name>ChangeJournal</name>
+        <message>
+            <source>%1 could not be opened: %2</source>
+            <translation>%1 を開けませんでした: %2</translation>
+        </message>
+        <message>
+            <source>%1 could not be written: %2</source>
+            <translation>%1 を書き込めませんでした: %2</translation>
+        </message>
+        <message>
+            <source>%1 could not be removed: %2</source>
+            <translation>%1 を削除できませんでした: %2</translation>
+        </message>
+        <message>
+            <source>%1 could not be read: %2</source>
+            <translation>%1 を読み込めませんでした: %2</translation>
         </message>
     </context>
 </TS>

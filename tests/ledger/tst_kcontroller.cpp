@@ -214,9 +214,27 @@ void TestKController::savingWritesEditedMonthsOnly()
     const auto again = controller.monthListForYear(2006, 5);
     QVERIFY(again != may);
     QCOMPARE(again->dataListArray().size(), 3);
-    again->addData({entry(2006, 5, 5, u"dropped"_s)});
+    again->addData({entry(2006, 5, 5, u"journaled"_s)});
     controller.releaseAllDataWithSave(false);
     QCOMPARE(controller.monthListForYear(2006, 5)->dataListArray().size(), 3);
+    // ...but not lost: the change journal brings them back, as at a start
+    // after a crash, writes them and is removed.
+    controller.releaseAllDataWithSave(false);
+    QString problem;
+    QVERIFY2(controller.replayChangeJournal(&problem), qPrintable(problem));
+    QCOMPARE(onDisk(2006, 5), (QStringList{u"new"_s, u"soon"_s, u"kept"_s, u"journaled"_s}));
+    QVERIFY(!QFile::exists(controller.changeJournalPath()));
+
+    // A change that reported nothing (a memo) is journaled before its month
+    // is written, so that a replay never turns the file back.
+    const auto may2 = controller.monthListForYear(2006, 5);
+    may2->dataListArray().constFirst()->setDetails(u"first"_s);
+    may2->setSummary(u"unreported"_s);
+    may2->setIsEdited(true);
+    QVERIFY(controller.writeDataListToFile(may2.get()));
+    controller.releaseAllDataWithSave(false);
+    QVERIFY(controller.replayChangeJournal());
+    QCOMPARE(controller.monthListForYear(2006, 5)->summary(), u"unreported"_s);
 }
 
 void TestKController::resaveWritesEveryMonth()
@@ -282,8 +300,10 @@ void TestKController::failedSaveKeepsTheMonthAndIsRetried()
     QCOMPARE(controller.unsavedMonths().constFirst().month, 5);
     QVERIFY(controller.unsavedMonths().constFirst().reason.contains(systemWords));
     QCOMPARE(readBytes(path), before);
+    // The journal has the edit meanwhile.
     QCOMPARE(QDir(m_folder).entryList(QDir::Files | QDir::Hidden),
-             QStringList{u"Data_2006_5.Penwick"_s});
+             (QStringList{u".penwick-journal"_s, u"Data_2006_5.Penwick"_s}));
+    QVERIFY(controller.unsavedMonthsAreJournaled());
     QVERIFY(!controller.releaseAllDataWithSave(true));
 
     // Once the disk takes it again, the next try saves it.
@@ -292,6 +312,8 @@ void TestKController::failedSaveKeepsTheMonthAndIsRetried()
     QVERIFY(controller.unsavedMonths().isEmpty());
     QCOMPARE(unsaved.size(), 2);
     QCOMPARE(onDisk(2006, 5), QStringList{u"edited"_s});
+    QCOMPARE(QDir(m_folder).entryList(QDir::Files | QDir::Hidden),
+             QStringList{u"Data_2006_5.Penwick"_s});
 }
 
 void TestKController::listFileThatCannotBeReadStopsBookings()

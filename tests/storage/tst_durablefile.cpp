@@ -1,8 +1,10 @@
 #include "TestHelpers.h"
 
+#include "storage/ChangeJournal.h"
 #include "storage/DurableFile.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -27,6 +29,8 @@ private slots:
     void failureAtEachStepKeepsTheOldFile_data();
     void failureAtEachStepKeepsTheOldFile();
     void batchWritesCountOnlyOnceSynced();
+    void journalYieldsWholeRecordsOnly_data();
+    void journalYieldsWholeRecordsOnly();
     void realFullAndReadOnlyDisk();
 
 private:
@@ -93,6 +97,55 @@ void TestDurableFile::batchWritesCountOnlyOnceSynced()
     QCOMPARE(readBytes(m_path), QByteArray("renumbered"));
 }
 
+namespace {
+QStringList contentsOf(const ChangeJournal::Contents &contents)
+{
+    QStringList months;
+    for (const ChangeJournal::Month &month : contents.months)
+        months.append(u"%1/%2=%3"_s.arg(month.year).arg(month.month).arg(QString::fromLatin1(month.content)));
+    return months;
+}
+} // namespace
+
+void TestDurableFile::journalYieldsWholeRecordsOnly_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QStringList>("months");
+    QTest::addColumn<bool>("torn");
+    QTest::addColumn<bool>("foreign");
+
+    // A move (May and June), then an edit of May: the last content counts.
+    QTemporaryDir folder;
+    ChangeJournal journal(folder.filePath(u"journal"_s));
+    QVERIFY(journal.append({{2006, 5, "may-1"}, {2006, 6, "june-1"}}));
+    QVERIFY(journal.append({{2006, 5, "may-2"}}));
+    const QByteArray whole = readBytes(journal.path());
+    const qsizetype lastRecord = 4 + 8 + 2 + 12 + 5;
+    const QStringList afterMove{u"2006/5=may-1"_s, u"2006/6=june-1"_s};
+
+    QTest::newRow("whole") << whole << QStringList{u"2006/6=june-1"_s, u"2006/5=may-2"_s} << false << false;
+    QTest::newRow("last record cut short") << whole.chopped(3) << afterMove << true << false;
+    QTest::newRow("only its length written") << whole.chopped(lastRecord - 4) << afterMove << true << false;
+    QByteArray flipped = whole;
+    flipped[flipped.size() - 1] = 'X';
+    QTest::newRow("last record damaged") << flipped << afterMove << true << false;
+    QTest::newRow("signature cut short") << whole.left(5) << QStringList() << true << false;
+    QTest::newRow("empty") << QByteArray() << QStringList() << false << false;
+    QTest::newRow("another file") << QByteArray("<?xml version=\"1.0\"?>") << QStringList() << false << true;
+}
+
+void TestDurableFile::journalYieldsWholeRecordsOnly()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QStringList, months);
+    QFETCH(bool, torn);
+    QFETCH(bool, foreign);
+    const ChangeJournal::Contents contents = ChangeJournal::read(bytes);
+    QCOMPARE(contentsOf(contents), months);
+    QCOMPARE(contents.torn, torn);
+    QCOMPARE(contents.foreign, foreign);
+}
+
 // The real thing: a tiny file system filled to the brim, then made
 // read-only. Only root may mount one, so others skip this.
 void TestDurableFile::realFullAndReadOnlyDisk()
@@ -110,6 +163,9 @@ void TestDurableFile::realFullAndReadOnlyDisk()
     const QString path = mountPoint.filePath(u"Data_1997_2.Penwick"_s);
     const QByteArray month(20 * 1024, 'm');
     QVERIFY(DurableFile::write(path, month));
+    ChangeJournal journal(mountPoint.filePath(u".penwick-journal"_s));
+    QVERIFY(journal.append({{1997, 2, "kept"}}));
+    QCOMPARE(QFileInfo(journal.path()).permissions() & 0x0077, 0); // the owner's alone
     // Fill what is left, so that a second copy of the month cannot fit.
     QVERIFY(run(u"sh"_s, {u"-c"_s, u"dd if=/dev/zero of=%1 bs=4k 2>/dev/null; true"_s.arg(
                                       mountPoint.filePath(u"filler"_s))}));
@@ -118,7 +174,16 @@ void TestDurableFile::realFullAndReadOnlyDisk()
     QVERIFY2(why.contains(QString::fromLocal8Bit(std::strerror(ENOSPC))), qPrintable(why));
     QCOMPARE(readBytes(path), month);
     QCOMPARE(QDir(mountPoint.path()).entryList(QDir::Files | QDir::Hidden),
-             (QStringList{u"Data_1997_2.Penwick"_s, u"filler"_s}));
+             (QStringList{u".penwick-journal"_s, u"Data_1997_2.Penwick"_s, u"filler"_s}));
+    // A record the disk cannot take is taken back whole: the journal still
+    // reads, with what it held.
+    QVERIFY(!journal.append({{1997, 2, QByteArray(30 * 1024, 'j')}}, &why));
+    QVERIFY2(why.contains(QString::fromLocal8Bit(std::strerror(ENOSPC))), qPrintable(why));
+    const ChangeJournal::Contents kept = ChangeJournal::readFile(journal.path());
+    QCOMPARE(contentsOf(kept), QStringList{u"1997/2=kept"_s});
+    QVERIFY(!kept.torn);
+    QVERIFY(journal.remove());
+    QVERIFY(!QFile::exists(journal.path()));
 
     QVERIFY(run(u"mount"_s, {u"-o"_s, u"remount,ro"_s, mountPoint.path()}));
     why.clear();

@@ -9,11 +9,13 @@
 #include "model/YearDataList.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
+#include "storage/ChangeJournal.h"
 #include "storage/ColorArchive.h"
 #include "storage/DurableFile.h"
 #include "storage/ListFile.h"
 #include "storage/MonthFile.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -31,6 +33,14 @@ int cacheKey(int year, int month)
 {
     return year * 100 + month;
 }
+
+int cacheKey(const MonthDataList &list)
+{
+    return cacheKey(list.year(), list.month());
+}
+
+// Hidden: it is the program's own bookkeeping, not a file for the user.
+const QString kChangeJournalName = QStringLiteral(".penwick-journal");
 
 void setError(QString *error, const QString &text)
 {
@@ -80,6 +90,8 @@ KController::KController(QObject *parent)
 
 KController::~KController()
 {
+    // A journal left behind is replayed at the next start; closing it here
+    // is all a controller going away should do.
     if (LedgerController::installed() == this)
         LedgerController::install(nullptr);
 }
@@ -204,8 +216,14 @@ bool KController::writeMonth(MonthDataList *list, QString *reason)
                      "are not saved.");
         return false;
     }
-    if (!DurableFile::write(filePathForYear(list->year(), list->month()), MonthFile::encode(*list),
-                            reason))
+    const QByteArray content = MonthFile::encode(*list);
+    // The journal's last record of a month must never be older than its file,
+    // or a replay would turn the file back: a change that reached the month
+    // without a record of its own gets one first.
+    if (const auto journaled = m_journaled.constFind(cacheKey(*list));
+        journaled != m_journaled.cend() && journaled.value() != content)
+        journal({list});
+    if (!DurableFile::write(filePathForYear(list->year(), list->month()), content, reason))
         return false;
     list->setIsEdited(false);
     return true;
@@ -303,7 +321,157 @@ bool KController::saveAllEditedData()
         if (auto *month = dynamic_cast<MonthDataList *>(list.get()))
             writeDataListToFile(month);
     }
-    return !hasUnsavedMonths();
+    if (hasUnsavedMonths())
+        return false;
+    if (m_journal) {
+        QString reason;
+        if (m_journal->remove(&reason)) {
+            m_journal.reset();
+            m_journaled.clear();
+        } else {
+            qWarning("%s", qPrintable(reason));
+        }
+    }
+    return true;
+}
+
+QString KController::changeJournalPath()
+{
+    return QDir(dataFolderPath()).filePath(kChangeJournalName);
+}
+
+void KController::flushJournal()
+{
+    if (m_journalBatch > 0 || m_journalPending.isEmpty())
+        return;
+    QList<int> keys = std::exchange(m_journalPending, {}).values();
+    std::sort(keys.begin(), keys.end());
+    QList<MonthDataList *> months;
+    for (int key : keys) {
+        auto *month = dynamic_cast<MonthDataList *>(m_listStock.value(key).get());
+        if (month && month->isEdited() && !month->isReadOnly())
+            months.append(month);
+    }
+    if (!months.isEmpty())
+        journal(months);
+}
+
+bool KController::journal(const QList<MonthDataList *> &months)
+{
+    QList<ChangeJournal::Month> records;
+    records.reserve(months.size());
+    for (const MonthDataList *month : months)
+        records.append({month->year(), month->month(), MonthFile::encode(*month)});
+    QString reason;
+    if (!m_journal) {
+        // A journal not brought back (it could not be read) is neither added
+        // to nor removed: the months are written as they are instead.
+        if (QFileInfo(changeJournalPath()).size() > 0) {
+            QMetaObject::invokeMethod(this, &KController::saveAllEditedData, Qt::QueuedConnection);
+            return false;
+        }
+        m_journal = std::make_unique<ChangeJournal>(changeJournalPath());
+    }
+    if (m_journal->append(records, &reason)) {
+        for (ChangeJournal::Month &record : records)
+            m_journaled.insert(cacheKey(record.year, record.month), std::move(record.content));
+        return true;
+    }
+    qWarning("%s", qPrintable(reason));
+    dropJournal();
+    // Not yet on the disk: write the months themselves, which says what it
+    // cannot; not from within the change being reported, though.
+    QMetaObject::invokeMethod(this, &KController::saveAllEditedData, Qt::QueuedConnection);
+    return false;
+}
+
+void KController::dropJournal()
+{
+    if (!m_journal)
+        m_journal = std::make_unique<ChangeJournal>(changeJournalPath());
+    QString reason;
+    if (!m_journal->remove(&reason))
+        qWarning("%s", qPrintable(reason));
+    m_journal.reset();
+    m_journaled.clear();
+}
+
+void KController::keepChange(MonthDataList *list)
+{
+    if (!list || !list->isEdited() || list->isReadOnly() || m_conversionRunning || m_converting)
+        return;
+    m_saveTimer.start();
+    if (m_listStock.value(cacheKey(*list)).get() != list)
+        return;
+    m_journalPending.insert(cacheKey(*list));
+    flushJournal();
+}
+
+bool KController::unsavedMonthsAreJournaled() const
+{
+    const QList<MonthDataList *> months = cachedMonths();
+    return std::all_of(months.cbegin(), months.cend(), [this](const MonthDataList *month) {
+        return !month->isEdited() || month->isReadOnly()
+               || m_journaled.value(cacheKey(*month)) == MonthFile::encode(*month);
+    });
+}
+
+void KController::discardUnsavedChanges()
+{
+    dropJournal();
+}
+
+bool KController::replayChangeJournal(QString *error)
+{
+    const QString path = changeJournalPath();
+    QString unreadable;
+    ChangeJournal::Contents contents = ChangeJournal::readFile(path, &unreadable);
+    if (!unreadable.isEmpty()) {
+        setError(error, unreadable);
+        return false;
+    }
+    QStringList problems;
+    QList<std::shared_ptr<MonthDataList>> months;
+    for (const ChangeJournal::Month &record : std::as_const(contents.months)) {
+        QString reason;
+        auto month = MonthFile::decode(record.content, &reason);
+        if (month && (month->year() != record.year || month->month() != record.month))
+            month.reset();
+        if (month)
+            months.append(month);
+        else
+            problems.append(tr("The changes to %1/%2 could not be read back.")
+                                .arg(record.month).arg(record.year));
+    }
+    if (contents.foreign || !problems.isEmpty()) {
+        // Kept for whoever can make sense of it, out of the way of the next.
+        const QString aside = path + QStringLiteral(".unreadable-")
+                              + QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss");
+        QString reason;
+        if (!DurableFile::rename(path, aside, &reason)) {
+            setError(error, reason);
+            return false;
+        }
+        problems.prepend(tr("The journal of changes %1 is damaged; it was kept as %2.")
+                             .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(aside)));
+    } else if (!contents.months.isEmpty() || contents.torn) {
+        // Adopted: the months' newer records go after these.
+        m_journal = std::make_unique<ChangeJournal>(path);
+        for (ChangeJournal::Month &record : contents.months)
+            m_journaled.insert(cacheKey(record.year, record.month), std::move(record.content));
+    }
+    if (contents.torn)
+        problems.append(tr("The last change before Penwick stopped was being written at that "
+                           "moment and is not in the book."));
+    for (const std::shared_ptr<MonthDataList> &month : std::as_const(months)) {
+        month->setIsEdited(true);
+        m_listStock.insert(cacheKey(*month), month);
+    }
+    if (!saveAllEditedData())
+        problems.append(tr("Some of the changes brought back could not be written to their "
+                           "months yet; they stay safe in the journal."));
+    setError(error, problems.join(u'\n'));
+    return problems.isEmpty();
 }
 
 bool KController::hasUnsavedMonths() const
@@ -331,6 +499,11 @@ bool KController::releaseAllDataWithSave(bool save)
     m_saveTimer.stop();
     m_listStock.clear();
     m_dataFolder.clear();
+    // Whatever the journal still holds is replayed when the folder is used
+    // again.
+    m_journal.reset();
+    m_journaled.clear();
+    m_journalPending.clear();
     m_unreadableMonths.clear();
     m_listFileProblem.clear();
     if (!std::exchange(m_notWritten, {}).isEmpty()) {
@@ -395,11 +568,14 @@ bool KController::addData(const PaymentArray &records, int year, int month, QStr
 
 void KController::deleteData(const PaymentArray &records)
 {
+    ++m_journalBatch;
     const auto groups = assortDataArray(records);
     for (const PaymentArray &group : groups) {
         const PaymentDataPtr &first = group.constFirst();
         deleteData(group, first->year(), first->month());
     }
+    --m_journalBatch;
+    flushJournal();
 }
 
 void KController::deleteData(const PaymentArray &records, int year, int month)
@@ -473,6 +649,13 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
             return false;
         }
     }
+    // Records in the old numbers must not outlive the change.
+    if (m_journal) {
+        setError(error, tr("The journal of changes %1 could not be removed, so none of the stored "
+                           "entries has been renumbered and the lists are unchanged.")
+                            .arg(QDir::toNativeSeparators(changeJournalPath())));
+        return false;
+    }
 
     QStringList files;
     files.reserve(months.size());
@@ -530,10 +713,10 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
     m_converting = false;
     readListPreference();
     for (qsizetype i = 0; i < cached.size(); ++i) {
-        cached.at(i)->notifyChange();
         // The files hold these numbers already, unless the month changed
         // while the folder was being converted.
         cached.at(i)->setIsEdited(changedMeanwhile.at(i));
+        cached.at(i)->notifyChange();
     }
     saveAllEditedData();
     return true;
@@ -602,8 +785,13 @@ void KController::moveData(const PaymentDataPtr &record, MonthDataList *fromList
                                     "can be moved into it."));
         return;
     }
+    // Both months in one record: a crash never leaves the entry in both or
+    // in neither.
+    ++m_journalBatch;
     target->addData({record});
     fromList->deleteData({record});
+    --m_journalBatch;
+    flushJournal();
 }
 
 void KController::readListPreference()
@@ -634,6 +822,10 @@ StoredLists KController::storedLists()
 
 void KController::scheduleSave(DataList *list)
 {
-    if (list && list->isEdited())
+    // Closing-day lists and year lists report their months' changes too; the
+    // months report their own.
+    if (auto *month = dynamic_cast<MonthDataList *>(list))
+        keepChange(month);
+    else if (list && list->isEdited())
         m_saveTimer.start();
 }

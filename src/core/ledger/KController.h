@@ -6,10 +6,13 @@
 #include <QHash>
 #include <QMap>
 #include <QObject>
+#include <QSet>
 #include <QTimer>
 
+#include <memory>
 #include <optional>
 
+class ChangeJournal;
 class MonthDataList;
 
 // The application controller's data half: the month store with its cache of
@@ -21,6 +24,11 @@ class MonthDataList;
 // Files are written atomically. A month whose file cannot be read is answered
 // as an empty list that is never written back, so the file stays as it was; a
 // write that fails leaves its month edited. Both are reported by signal.
+//
+// Every change is durable the moment it is made: the months it touched go
+// into the folder's change journal (one synced append), and their files are
+// rewritten about a second later. The next start replays what the journal
+// holds, so a crash in between loses nothing.
 class KController : public QObject, public LedgerController
 {
     Q_OBJECT
@@ -56,7 +64,23 @@ public:
     // Every list in the cache, by year * 100 + month ascending.
     QList<std::shared_ptr<DataList>> cachedLists() const;
     // Writes every edited month of the cache; true when none is left unsaved.
+    // Once none is, the change journal has served and is removed.
     bool saveAllEditedData();
+    // To be called after finishInterruptedConversion() and before any month
+    // is read: brings back the changes a crash kept from their month files,
+    // and writes them. False, with the reason, when the journal was damaged
+    // or not every change could be brought back; whatever could not is kept
+    // beside the journal's name, never thrown away.
+    bool replayChangeJournal(QString *error = nullptr);
+    // Makes an edit of the month durable at once (a memo, which changes no
+    // entry and so reports nothing by itself).
+    void keepChange(MonthDataList *list);
+    // Whether every unsaved month is safe in the change journal, so that the
+    // next start brings it back.
+    bool unsavedMonthsAreJournaled() const;
+    // The user chose to drop the unsaved changes: the journal goes too.
+    void discardUnsavedChanges();
+    QString changeJournalPath();
     // Whether an edited month of the cache is not on the disk.
     bool hasUnsavedMonths() const;
     struct UnsavedMonth
@@ -144,6 +168,13 @@ private:
     std::shared_ptr<MonthDataList> readMonthFile(int year, int month);
     void settleLoadedList(MonthDataList *list);
     void scheduleSave(DataList *list);
+    // Writes the months changed since the last record into the journal.
+    void flushJournal();
+    // Appends the months to the journal; on failure the journal is dropped
+    // (it may not hold anything older than a month's file) and the months
+    // are written at once instead.
+    bool journal(const QList<MonthDataList *> &months);
+    void dropJournal();
     // Writes without reporting; the caller decides what a failure means.
     bool writeMonth(MonthDataList *list, QString *reason);
     void setMonthWritten(const MonthDataList *list, const QString &failure);
@@ -166,4 +197,12 @@ private:
     QMap<int, QString> m_unreadableMonths;
     QMap<int, QString> m_notWritten;
     QString m_listFileProblem;
+
+    std::unique_ptr<ChangeJournal> m_journal;
+    // year * 100 + month to the month's content in its journal's last record.
+    QHash<int, QByteArray> m_journaled;
+    // Months changed since their last record; a move of entries between two
+    // months is one record, written when the outermost batch ends.
+    QSet<int> m_journalPending;
+    int m_journalBatch = 0;
 };

@@ -177,6 +177,9 @@ void KAppController::startUp()
     if (QString problem; !m_ledger->finishInterruptedConversion(&problem))
         m_alerts->report(tr("A change of the category and payway lists could not be finished."),
                          problem);
+    if (QString problem; !m_ledger->replayChangeJournal(&problem))
+        m_alerts->report(tr("Not every change made before Penwick stopped could be brought back."),
+                         problem);
 
     const bool firstStart = m_ledger->setUpFirstStart();
     if (firstStart) {
@@ -418,6 +421,12 @@ void KAppController::applicationWillTerminate()
         myListWinController->saveData();
     if (m_ledger->saveAllEditedData() || m_quitWithoutSaving)
         return;
+    if (m_ledger->unsavedMonthsAreJournaled()) {
+        qWarning("Penwick: the months that could not be saved are kept in %s and saved at the "
+                 "next start",
+                 qPrintable(m_ledger->changeJournalPath()));
+        return;
+    }
     // Told to stop (a signal, the session ending) with months the disk did not
     // take: keep them where the next start finds them.
     QString error;
@@ -442,6 +451,8 @@ void KAppController::quit()
                     break;
                 case LedgerAlerts::QuitAnswer::CopySaved:
                 case LedgerAlerts::QuitAnswer::QuitWithoutSaving:
+                    // Not brought back at the next start either.
+                    m_ledger->discardUnsavedChanges();
                     m_quitWithoutSaving = true;
                     terminate();
                     break;

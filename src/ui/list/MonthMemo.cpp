@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr int kDelayMs = 1000;
+// A pause in typing this long makes what was typed durable.
+constexpr int kDelayMs = 300;
 
 } // namespace
 
@@ -66,5 +67,5 @@ void MonthMemo::commit()
 {
     edit();
     if (m_list && m_list->isEdited())
-        m_controller->writeDataListToFile(m_list.get());
+        m_controller->keepChange(m_list.get());
 }

@@ -24,7 +24,7 @@ public:
     void showMonth(int year, int month);
     // Hands the text typed to its month.
     void edit();
-    // edit, then writes the month at once.
+    // edit, then makes the month's change durable at once.
     void commit();
 
 private:

@@ -412,6 +412,8 @@ bool PrefWinController::changeDataFolder(const QString &path)
     QString error;
     if (!m_controller->finishInterruptedConversion(&error))
         showProblem(tr("The new data folder needs attention."), error);
+    if (!m_controller->replayChangeJournal(&error))
+        showProblem(tr("The new data folder needs attention."), error);
     readListFromDefault();
     emit Notifications::instance()->listPreferenceHasUpDated();
     return true;
