@@ -104,6 +104,26 @@ void BM_CommitCellEdit(benchmark::State &state)
 }
 BENCHMARK(BM_CommitCellEdit)->Unit(benchmark::kMicrosecond)->Iterations(1000)->Repetitions(5);
 
+// Taking a cell edit back and making it again, each durable at once.
+void BM_UndoCellEdit(benchmark::State &state)
+{
+    QTemporaryDir dir;
+    Settings().setDataPath(dir.path());
+    KController controller;
+    const auto list = controller.monthListForYear(2006, 5);
+    list->addData(LedgerGenerator().monthRecords(2006, 5, kPerMonth));
+    KController::Change change;
+    QObject::connect(&controller, &KController::changeRecorded,
+                     [&change](const KController::Change &made) { change = made; });
+    list->dataListArray().constFirst()->setAmount(12345);
+    bool before = true;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(controller.restoreChange(change, before));
+        before = !before;
+    }
+}
+BENCHMARK(BM_UndoCellEdit)->Unit(benchmark::kMicrosecond)->Repetitions(5)->ReportAggregatesOnly();
+
 void BM_ReadAllDataThirtyYears(benchmark::State &state)
 {
     Settings().setDataPath(thirtyYearFolder());

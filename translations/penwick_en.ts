@@ -102,6 +102,10 @@
             <source>Payment method</source>
             <translation>Payment method</translation>
         </message>
+        <message>
+            <source>Change of %1</source>
+            <translation>Change of %1</translation>
+        </message>
     </context>
     <context>
         <name>GraphCategoryModel</name>
@@ -252,6 +256,14 @@
             <source>&amp;Book</source>
             <translation>&amp;Book</translation>
         </message>
+        <message>
+            <source>Booking of an Entry</source>
+            <translation>Booking of an Entry</translation>
+        </message>
+        <message>
+            <source>Booking of %1 Entries</source>
+            <translation>Booking of %1 Entries</translation>
+        </message>
     </context>
     <context>
         <name>KAppController</name>
@@ -310,6 +322,10 @@
         <message>
             <source>Not every change made before Penwick stopped could be brought back.</source>
             <translation>Not every change made before Penwick stopped could be brought back.</translation>
+        </message>
+        <message>
+            <source>&amp;Edit</source>
+            <translation>&amp;Edit</translation>
         </message>
     </context>
     <context>
@@ -516,10 +532,6 @@
             </translation>
         </message>
         <message>
-            <source>Deleted entries cannot be brought back.</source>
-            <translation>Deleted entries cannot be brought back.</translation>
-        </message>
-        <message>
             <source>Delete</source>
             <translation>Delete</translation>
         </message>
@@ -542,6 +554,18 @@
         <message>
             <source>Not saved: %1. Penwick tries again every 30 seconds and at every change.</source>
             <translation>Not saved: %1. Penwick tries again every 30 seconds and at every change.</translation>
+        </message>
+        <message>
+            <source>Edit &gt; Undo brings them back.</source>
+            <translation>Edit &gt; Undo brings them back.</translation>
+        </message>
+        <message>
+            <source>Deletion of an Entry</source>
+            <translation>Deletion of an Entry</translation>
+        </message>
+        <message>
+            <source>Deletion of %1 Entries</source>
+            <translation>Deletion of %1 Entries</translation>
         </message>
     </context>
     <context>
@@ -1136,6 +1160,10 @@
             <source>Notes on %1 %2</source>
             <translation>Notes on %1 %2</translation>
         </message>
+        <message>
+            <source>Memo Edit</source>
+            <translation>Memo Edit</translation>
+        </message>
     </context>
     <context>
         <name>MonthTotalsPane</name>
@@ -1428,6 +1456,29 @@ Show Details… tells more of each.</translation>
         <message>
             <source>%1 could not be read: %2</source>
             <translation>%1 could not be read: %2</translation>
+        </message>
+    </context>
+    <context>
+        <name>UndoHistory</name>
+        <message>
+            <source>Change</source>
+            <translation>Change</translation>
+        </message>
+        <message>
+            <source>&amp;Undo %1</source>
+            <translation>&amp;Undo %1</translation>
+        </message>
+        <message>
+            <source>&amp;Undo</source>
+            <translation>&amp;Undo</translation>
+        </message>
+        <message>
+            <source>&amp;Redo %1</source>
+            <translation>&amp;Redo %1</translation>
+        </message>
+        <message>
+            <source>&amp;Redo</source>
+            <translation>&amp;Redo</translation>
         </message>
     </context>
 </TS>

@@ -101,6 +101,10 @@
             <source>Payment method</source>
             <translation>支払い方法</translation>
         </message>
+        <message>
+            <source>Change of %1</source>
+            <translation>%1の変更</translation>
+        </message>
     </context>
     <context>
         <name>GraphCategoryModel</name>
@@ -251,6 +255,14 @@
             <source>&amp;Book</source>
             <translation>記帳(&amp;B)</translation>
         </message>
+        <message>
+            <source>Booking of an Entry</source>
+            <translation>1件の記帳</translation>
+        </message>
+        <message>
+            <source>Booking of %1 Entries</source>
+            <translation>%1件の記帳</translation>
+        </message>
     </context>
     <context>
         <name>KAppController</name>
@@ -309,6 +321,10 @@
         <message>
             <source>Not every change made before Penwick stopped could be brought back.</source>
             <translation>Penwick が終了する前の変更のうち、一部を戻せませんでした。</translation>
+        </message>
+        <message>
+            <source>&amp;Edit</source>
+            <translation>編集(&amp;E)</translation>
         </message>
     </context>
     <context>
@@ -514,10 +530,6 @@
             </translation>
         </message>
         <message>
-            <source>Deleted entries cannot be brought back.</source>
-            <translation>削除したデータは元に戻せません。</translation>
-        </message>
-        <message>
             <source>Delete</source>
             <translation>削除</translation>
         </message>
@@ -540,6 +552,18 @@
         <message>
             <source>Not saved: %1. Penwick tries again every 30 seconds and at every change.</source>
             <translation>未保存: %1。Penwick は 30 秒ごとと変更のたびに再試行します。</translation>
+        </message>
+        <message>
+            <source>Edit &gt; Undo brings them back.</source>
+            <translation>「編集」&gt;「取り消す」で元に戻せます。</translation>
+        </message>
+        <message>
+            <source>Deletion of an Entry</source>
+            <translation>記帳の削除</translation>
+        </message>
+        <message>
+            <source>Deletion of %1 Entries</source>
+            <translation>%1件の記帳の削除</translation>
         </message>
     </context>
     <context>
@@ -1134,6 +1158,10 @@
             <source>Notes on %1 %2</source>
             <translation>%2年%1のメモ</translation>
         </message>
+        <message>
+            <source>Memo Edit</source>
+            <translation>メモの編集</translation>
+        </message>
     </context>
     <context>
         <name>MonthTotalsPane</name>
@@ -1426,6 +1454,29 @@ Show Details… tells more of each.</source>
         <message>
             <source>%1 could not be read: %2</source>
             <translation>%1 を読み込めませんでした: %2</translation>
+        </message>
+    </context>
+    <context>
+        <name>UndoHistory</name>
+        <message>
+            <source>Change</source>
+            <translation>変更</translation>
+        </message>
+        <message>
+            <source>&amp;Undo %1</source>
+            <translation>「%1」を取り消す(&amp;U)</translation>
+        </message>
+        <message>
+            <source>&amp;Undo</source>
+            <translation>取り消す(&amp;U)</translation>
+        </message>
+        <message>
+            <source>&amp;Redo %1</source>
+            <translation>「%1」をやり直す(&amp;R)</translation>
+        </message>
+        <message>
+            <source>&amp;Redo</source>
+            <translation>やり直す(&amp;R)</translation>
         </message>
     </context>
 </TS>

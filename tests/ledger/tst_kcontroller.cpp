@@ -43,6 +43,8 @@ private slots:
     void unreadableFileIsNeverOverwritten();
     void addingWritesAtOnceDeletingAndMovingWait();
     void editsAddressTheRecordsCurrentMonth();
+    void changesAreRecordedAndRestored_data();
+    void changesAreRecordedAndRestored();
     void conversionRenumbersEveryMonthFile();
     void firstStartSettlesFolderAndLists();
     void closingDayMonths_data();
@@ -449,6 +451,83 @@ void TestKController::editsAddressTheRecordsCurrentMonth()
     r->setMonth(6); // the new month's list hears of it, without holding it yet
     QCOMPARE(changed.at(1).at(0).value<DataList *>(), controller.listForYear(2006, 6).get());
     QVERIFY(controller.listForYear(2006, 5)->dataListArray().contains(r));
+}
+
+enum class Edit { Cell, Booking, Delete, Move, Memo };
+Q_DECLARE_METATYPE(Edit)
+
+void TestKController::changesAreRecordedAndRestored_data()
+{
+    QTest::addColumn<Edit>("edit");
+    QTest::addColumn<QString>("changed"); // May's details and memo | June's
+    QTest::newRow("cell") << Edit::Cell << u"lunch train | "_s;
+    QTest::newRow("booking") << Edit::Booking << u"rent lunch bus | "_s;
+    QTest::newRow("delete") << Edit::Delete << u"bus | "_s;
+    QTest::newRow("move") << Edit::Move << u"bus | rent"_s;
+    QTest::newRow("memo") << Edit::Memo << u"rent bus memo: car | "_s;
+}
+
+// Each kind of change is recorded as one, under its label, and taking it
+// back and making it again puts every month it touched where it was, on the
+// disk too.
+void TestKController::changesAreRecordedAndRestored()
+{
+    QFETCH(Edit, edit);
+    QFETCH(QString, changed);
+    writeMonthFile(m_folder, 2006, 5, {entry(2006, 5, 1, u"rent"_s), entry(2006, 5, 9, u"bus"_s)});
+    KController controller;
+    const auto shown = [&controller] {
+        const auto may = controller.monthListForYear(2006, 5);
+        QStringList mayPart = detailsOf(may->dataListArray());
+        if (!may->summary().isEmpty())
+            mayPart.append(u"memo: "_s + may->summary());
+        return mayPart.join(u' ') + u" | "_s
+               + detailsOf(controller.monthListForYear(2006, 6)->dataListArray()).join(u' ');
+    };
+    const auto may = controller.monthListForYear(2006, 5);
+    const QString before = shown();
+    QSignalSpy recorded(&controller, &KController::changeRecorded);
+    {
+        const KController::ChangeScope scope(&controller, u"the change"_s, edit == Edit::Memo);
+        const PaymentDataPtr rent = may->dataListArray().constFirst();
+        switch (edit) {
+        case Edit::Cell:
+            rent->setDetails(u"lunch"_s);
+            may->dataListArray().constLast()->setDetails(u"train"_s);
+            break;
+        case Edit::Booking:
+            QVERIFY(controller.addData({entry(2006, 5, 3, u"lunch"_s)}));
+            break;
+        case Edit::Delete:
+            controller.deleteData({rent});
+            break;
+        case Edit::Move:
+            rent->setMonth(6);
+            controller.moveData(rent, may.get());
+            break;
+        case Edit::Memo:
+            may->setSummary(u"car"_s);
+            may->setIsEdited(true);
+            controller.keepChange(may.get());
+            break;
+        }
+    }
+    QCOMPARE(shown(), changed);
+    QCOMPARE(recorded.size(), 1);
+    const auto change = recorded.at(0).at(0).value<KController::Change>();
+    QCOMPARE(change.label, u"the change"_s);
+    QCOMPARE(change.typing, edit == Edit::Memo);
+    QCOMPARE(change.months.size(), edit == Edit::Move ? 2 : 1);
+
+    QVERIFY(controller.restoreChange(change, true));
+    QCOMPARE(shown(), before);
+    QVERIFY(controller.restoreChange(change, false));
+    QCOMPARE(shown(), changed);
+    QVERIFY(controller.restoreChange(change, true));
+    QCOMPARE(recorded.size(), 1); // taking back is no change of its own
+    controller.releaseAllDataWithSave(false);
+    QVERIFY(controller.replayChangeJournal());
+    QCOMPARE(shown(), before);
 }
 
 void TestKController::conversionRenumbersEveryMonthFile()

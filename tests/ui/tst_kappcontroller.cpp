@@ -1,10 +1,12 @@
 #include "TestDataFolder.h"
+#include "TestHelpers.h"
 
 #include "app/KAppController.h"
 #include "balance/BalanceWinController.h"
 #include "graph/GraphWinController.h"
 #include "input/InputRow.h"
 #include "input/InputWinController.h"
+#include "list/DataListTableModel.h"
 #include "list/ListWinController.h"
 #include "prefs/PrefWinController.h"
 #include "ledger/KController.h"
@@ -28,7 +30,9 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTableView>
 #include <QTest>
+#include <QTranslator>
 
 #include <cerrno>
 #include <cstring>
@@ -110,6 +114,8 @@ private slots:
     void typedInputHoldsTheQuit();
     void unfinishedListChangeIsReportedAtStart();
     void unsavedMonthsHoldTheQuit();
+    void undoReachesEveryWindow_data();
+    void undoReachesEveryWindow();
 
 private:
     TestDataFolder m_home;
@@ -363,6 +369,66 @@ void TestKAppController::unsavedMonthsHoldTheQuit()
     QCOMPARE(next.ledger()->monthListForYear(2006, 5)->dataListArray().constFirst()->details(),
              u"edited"_s);
     QVERIFY(!next.ledger()->monthListForYear(2006, 5)->isEdited());
+}
+
+void TestKAppController::undoReachesEveryWindow_data()
+{
+    QTest::addColumn<QString>("catalogue");
+    QTest::addColumn<QString>("undoText");
+    QTest::addColumn<QString>("redoText");
+    QTest::newRow("English") << QString() << u"&Undo Change of Details"_s
+                             << u"&Redo Change of Details"_s;
+    QTest::newRow("Japanese") << QStringLiteral(PENWICK_JA_CATALOGUE)
+                              << u"「内容の変更」を取り消す(&U)"_s << u"「内容の変更」をやり直す(&R)"_s;
+}
+
+// One history for the program: Undo and Redo lead the Edit menu of every
+// window, say what they take back, and a change made in the list window is
+// taken back from the input window's menu.
+void TestKAppController::undoReachesEveryWindow()
+{
+    QFETCH(QString, catalogue);
+    QFETCH(QString, undoText);
+    QFETCH(QString, redoText);
+    QTranslator translator;
+    if (!catalogue.isEmpty()) {
+        QVERIFY(translator.load(catalogue));
+        QCoreApplication::installTranslator(&translator);
+    }
+    const auto uninstall = qScopeGuard([&translator] { QCoreApplication::removeTranslator(&translator); });
+    writeMonthFile(Settings().dataPath(), 2006, 5, {entry(2006, 5, 3, u"lunch"_s)});
+
+    KAppController controller;
+    controller.confirmPassword();
+    controller.showInputWindow();
+    controller.showListWindow();
+    const auto inputs = visibleTopLevels<InputWinController>();
+    const auto lists = visibleTopLevels<ListWinController>();
+    QCOMPARE(inputs.size(), 1);
+    QCOMPARE(lists.size(), 1);
+    QAction *undo = nullptr;
+    for (QWidget *window : {static_cast<QWidget *>(inputs.constFirst()), static_cast<QWidget *>(lists.constFirst())}) {
+        const auto *edit = window->findChild<QMenu *>(u"editMenu"_s);
+        QVERIFY(edit);
+        undo = edit->actions().value(0);
+        QCOMPARE(undo->objectName(), u"undoAction"_s);
+        QCOMPARE(edit->actions().value(1)->objectName(), u"redoAction"_s);
+        QVERIFY(!undo->isEnabled());
+    }
+
+    ListWinController *list = lists.constFirst();
+    list->showListOfYear(2006, 5);
+    list->findChild<QPushButton *>(u"editButton"_s)->click();
+    QAbstractItemModel *model = list->findChild<QTableView *>()->model();
+    QVERIFY(model->setData(model->index(0, DataListTableModel::DetailsColumn), u"dinner"_s));
+    QCOMPARE(undo->text(), undoText);
+
+    const auto may = controller.ledger()->monthListForYear(2006, 5);
+    undo->trigger(); // the action of the input window's menu: it is the same
+    QCOMPARE(may->dataListArray().constFirst()->details(), u"lunch"_s);
+    QCOMPARE(model->index(0, DataListTableModel::DetailsColumn).data().toString(), u"lunch"_s);
+    const auto *redo = lists.constFirst()->findChild<QMenu *>(u"editMenu"_s)->actions().value(1);
+    QCOMPARE(redo->text(), redoText);
 }
 
 QTEST_MAIN(TestKAppController)

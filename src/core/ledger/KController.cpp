@@ -193,9 +193,26 @@ std::shared_ptr<MonthDataList> KController::readMonthFile(int year, int month)
     return list;
 }
 
+QByteArray KController::contentAsLoaded(const MonthDataList &month)
+{
+    // Unchanged since it was read, so its file still holds what it was read
+    // from; a month without a file was empty.
+    QFile file(filePathForYear(month.year(), month.month()));
+    if (file.open(QIODevice::ReadOnly))
+        return file.readAll();
+    return MonthFile::encode(MonthDataList(month.year(), month.month()));
+}
+
 void KController::settleLoadedList(MonthDataList *list)
 {
+    // Entries filed in the wrong month go where they belong: no change of
+    // the user's, nothing to take back.
+    const bool recording = std::exchange(m_recording, false);
+    const qsizetype filed = list->dataListArray().size();
     list->checkDateOfDataArray(list->dataListArray());
+    m_recording = recording;
+    if (list->dataListArray().size() != filed)
+        m_current.insert(cacheKey(*list), MonthFile::encode(*list));
     // Moving records out does not make the month differ from its file yet:
     // the file keeps them until the month is written again.
     list->setIsEdited(false);
@@ -219,10 +236,14 @@ bool KController::writeMonth(MonthDataList *list, QString *reason)
     const QByteArray content = MonthFile::encode(*list);
     // The journal's last record of a month must never be older than its file,
     // or a replay would turn the file back: a change that reached the month
-    // without a record of its own gets one first.
-    if (const auto journaled = m_journaled.constFind(cacheKey(*list));
-        journaled != m_journaled.cend() && journaled.value() != content)
-        journal({list});
+    // without a record of its own (a memo handed over on saving) is recorded
+    // first.
+    const int key = cacheKey(*list);
+    if (content != (m_current.contains(key) ? m_current.value(key) : contentAsLoaded(*list)))
+        recordMonths({list});
+    else if (const auto journaled = m_journaled.constFind(key);
+             journaled != m_journaled.cend() && journaled.value() != content)
+        journal({{list->year(), list->month(), {}, content}});
     if (!DurableFile::write(filePathForYear(list->year(), list->month()), content, reason))
         return false;
     list->setIsEdited(false);
@@ -353,15 +374,50 @@ void KController::flushJournal()
             months.append(month);
     }
     if (!months.isEmpty())
-        journal(months);
+        recordMonths(months);
 }
 
-bool KController::journal(const QList<MonthDataList *> &months)
+void KController::recordMonths(const QList<MonthDataList *> &months)
+{
+    QList<MonthChange> changes;
+    changes.reserve(months.size());
+    for (const MonthDataList *month : months) {
+        const int key = cacheKey(*month);
+        QByteArray after = MonthFile::encode(*month);
+        QByteArray before = m_current.contains(key) ? m_current.value(key) : contentAsLoaded(*month);
+        // Recorded already (a booking writes its month at once), or changed
+        // back within the change.
+        if (after == before)
+            continue;
+        m_current.insert(key, after);
+        changes.append({month->year(), month->month(), std::move(before), std::move(after)});
+    }
+    if (m_recording) {
+        for (const MonthChange &change : std::as_const(changes)) {
+            // A month changed twice within one change keeps its first before.
+            const auto same = std::find_if(m_change.months.begin(), m_change.months.end(),
+                                           [&change](const MonthChange &earlier) {
+                                               return earlier.year == change.year
+                                                      && earlier.month == change.month;
+                                           });
+            if (same == m_change.months.end())
+                m_change.months.append(change);
+            else
+                same->after = change.after;
+        }
+        if (m_changeDepth == 0 && !m_change.months.isEmpty())
+            emit changeRecorded(std::exchange(m_change, {}));
+    }
+    if (!changes.isEmpty())
+        journal(changes);
+}
+
+bool KController::journal(const QList<MonthChange> &months)
 {
     QList<ChangeJournal::Month> records;
     records.reserve(months.size());
-    for (const MonthDataList *month : months)
-        records.append({month->year(), month->month(), MonthFile::encode(*month)});
+    for (const MonthChange &month : months)
+        records.append({month.year, month.month, month.after});
     QString reason;
     if (!m_journal) {
         // A journal not brought back (it could not be read) is neither added
@@ -383,6 +439,53 @@ bool KController::journal(const QList<MonthDataList *> &months)
     // cannot; not from within the change being reported, though.
     QMetaObject::invokeMethod(this, &KController::saveAllEditedData, Qt::QueuedConnection);
     return false;
+}
+
+void KController::beginChange(const QString &label, bool typing)
+{
+    if (m_changeDepth++ == 0) {
+        m_change.label = label;
+        m_change.typing = typing;
+    }
+    ++m_journalBatch;
+}
+
+void KController::endChange()
+{
+    --m_journalBatch;
+    flushJournal();
+    if (--m_changeDepth == 0 && !m_change.months.isEmpty())
+        emit changeRecorded(std::exchange(m_change, {}));
+}
+
+bool KController::restoreChange(const Change &change, bool before)
+{
+    QList<std::pair<std::shared_ptr<MonthDataList>, std::shared_ptr<MonthDataList>>> restored;
+    for (const MonthChange &month : change.months) {
+        QString reason;
+        const auto list = monthListForYear(month.year, month.month);
+        auto state = MonthFile::decode(before ? month.before : month.after, &reason);
+        if (!list || list->isReadOnly() || !state)
+            return false;
+        restored.append({list, state});
+    }
+    const bool recording = std::exchange(m_recording, false);
+    ++m_journalBatch;
+    for (const auto &[list, state] : restored) {
+        list->setDataListArray(state->dataListArray());
+        list->setSummary(state->summary());
+        list->dataHasChangedAndNotify();
+    }
+    --m_journalBatch;
+    flushJournal();
+    m_recording = recording;
+    return true;
+}
+
+void KController::expireChanges()
+{
+    m_change = {};
+    emit changesExpired();
 }
 
 void KController::dropJournal()
@@ -466,6 +569,7 @@ bool KController::replayChangeJournal(QString *error)
     for (const std::shared_ptr<MonthDataList> &month : std::as_const(months)) {
         month->setIsEdited(true);
         m_listStock.insert(cacheKey(*month), month);
+        m_current.insert(cacheKey(*month), MonthFile::encode(*month));
     }
     if (!saveAllEditedData())
         problems.append(tr("Some of the changes brought back could not be written to their "
@@ -504,6 +608,8 @@ bool KController::releaseAllDataWithSave(bool save)
     m_journal.reset();
     m_journaled.clear();
     m_journalPending.clear();
+    m_current.clear();
+    expireChanges();
     m_unreadableMonths.clear();
     m_listFileProblem.clear();
     if (!std::exchange(m_notWritten, {}).isEmpty()) {
@@ -712,10 +818,15 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
     }
     m_converting = false;
     readListPreference();
+    // What was recorded before holds the old numbers.
+    m_current.clear();
+    expireChanges();
     for (qsizetype i = 0; i < cached.size(); ++i) {
         // The files hold these numbers already, unless the month changed
         // while the folder was being converted.
         cached.at(i)->setIsEdited(changedMeanwhile.at(i));
+        if (changedMeanwhile.at(i))
+            m_current.insert(cacheKey(*cached.at(i)), MonthFile::encode(*cached.at(i)));
         cached.at(i)->notifyChange();
     }
     saveAllEditedData();

@@ -81,6 +81,49 @@ public:
     // The user chose to drop the unsaved changes: the journal goes too.
     void discardUnsavedChanges();
     QString changeJournalPath();
+
+    // One change as the user made it, to be taken back and made again: each
+    // month it touched as its file would hold it before and after.
+    struct MonthChange
+    {
+        int year;
+        int month;
+        QByteArray before;
+        QByteArray after;
+    };
+    struct Change
+    {
+        QString label;
+        QList<MonthChange> months;
+        // Made while typing (a memo): successive ones of the same months
+        // are taken back as one.
+        bool typing = false;
+    };
+    // Every change of a month until the matching endChange() is one Change
+    // under the label (the outermost one's), and one record of the journal.
+    void beginChange(const QString &label, bool typing = false);
+    void endChange();
+    // beginChange() for the scope it lives in.
+    class ChangeScope
+    {
+    public:
+        ChangeScope(KController *ledger, const QString &label, bool typing = false)
+            : m_ledger(ledger)
+        {
+            m_ledger->beginChange(label, typing);
+        }
+        ~ChangeScope() { m_ledger->endChange(); }
+        ChangeScope(const ChangeScope &) = delete;
+        ChangeScope &operator=(const ChangeScope &) = delete;
+
+    private:
+        KController *m_ledger;
+    };
+    // Puts the months back into the state given, before or after the change
+    // (undo and redo). Kept and saved like any change, but not recorded as
+    // one. False when a month can no longer take it (its file became
+    // unreadable).
+    bool restoreChange(const Change &change, bool before);
     // Whether an edited month of the cache is not on the disk.
     bool hasUnsavedMonths() const;
     struct UnsavedMonth
@@ -160,6 +203,11 @@ signals:
     void unsavedMonthsChanged();
     // A conversion of the stored data has done `done` of `total` steps.
     void conversionProgress(int done, int total);
+    // A change was made (see Change); emitted when it is complete.
+    void changeRecorded(const KController::Change &change);
+    // The changes recorded so far can no longer be restored: the entries
+    // were renumbered, or the folder was let go.
+    void changesExpired();
 
 private:
     QList<std::shared_ptr<MonthDataList>> loadMonthFiles();
@@ -167,13 +215,19 @@ private:
     QList<MonthDataList *> cachedMonths() const;
     std::shared_ptr<MonthDataList> readMonthFile(int year, int month);
     void settleLoadedList(MonthDataList *list);
+    // The content of a month no change has touched since it was read.
+    QByteArray contentAsLoaded(const MonthDataList &month);
     void scheduleSave(DataList *list);
-    // Writes the months changed since the last record into the journal.
+    // Records the months changed since the last record: into the journal,
+    // and into the change being made.
     void flushJournal();
+    // Both for the months given, as they are now.
+    void recordMonths(const QList<MonthDataList *> &months);
     // Appends the months to the journal; on failure the journal is dropped
     // (it may not hold anything older than a month's file) and the months
     // are written at once instead.
-    bool journal(const QList<MonthDataList *> &months);
+    bool journal(const QList<MonthChange> &months);
+    void expireChanges();
     void dropJournal();
     // Writes without reporting; the caller decides what a failure means.
     bool writeMonth(MonthDataList *list, QString *reason);
@@ -205,4 +259,12 @@ private:
     // months is one record, written when the outermost batch ends.
     QSet<int> m_journalPending;
     int m_journalBatch = 0;
+    // year * 100 + month to the month's content as of its last change or its
+    // loading: the "before" of its next change.
+    QHash<int, QByteArray> m_current;
+    // The change being made; recorded changes are those of the user, not
+    // the loading of misfiled entries or an undo.
+    Change m_change;
+    int m_changeDepth = 0;
+    bool m_recording = true;
 };

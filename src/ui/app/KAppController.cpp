@@ -11,6 +11,7 @@
 #include "ledger/KController.h"
 #include "ledger/RescueFolder.h"
 #include "model/Notifications.h"
+#include "app/UndoHistory.h"
 #include "password/ConfirmPassPanelController.h"
 #include "security/PasswordLock.h"
 #include "settings/Settings.h"
@@ -32,6 +33,7 @@ KAppController::KAppController(QObject *parent)
     : QObject(parent)
     , m_ledger(std::make_unique<KController>())
     , m_alerts(new LedgerAlerts(m_ledger.get(), this))
+    , m_history(new UndoHistory(m_ledger.get(), this))
 {
     createActions();
 }
@@ -126,6 +128,21 @@ QMenuBar *KAppController::installMenuBar(QWidget *window)
         bar->insertMenu(own.isEmpty() ? nullptr : own.constFirst(), file);
     }
     file->addAction(m_quitAction);
+    // Undo and Redo lead the window's own Edit menu, or one of their own
+    // right after File.
+    const QList<QAction *> undoRedo{m_history->undoAction(), m_history->redoAction()};
+    QMenu *edit = bar->findChild<QMenu *>(QStringLiteral("editMenu"));
+    if (edit) {
+        QAction *first = edit->actions().value(0);
+        edit->insertActions(first, undoRedo);
+        edit->insertSeparator(first);
+    } else {
+        edit = new QMenu(tr("&Edit"), bar);
+        edit->setObjectName(QStringLiteral("editMenu"));
+        edit->addActions(undoRedo);
+        const QList<QAction *> menus = bar->actions();
+        bar->insertMenu(menus.value(menus.indexOf(file->menuAction()) + 1), edit);
+    }
     QMenu *windows = bar->addMenu(tr("&Window"));
     windows->addActions(m_windowActions);
     windows->addSeparator();

@@ -15,6 +15,7 @@ class GraphWinController;
 class InputWinController;
 class KController;
 class LedgerAlerts;
+class UndoHistory;
 class ListWinController;
 class PrefWinController;
 class QAction;
@@ -114,6 +115,7 @@ private:
 
     std::unique_ptr<KController> m_ledger;
     LedgerAlerts *m_alerts;
+    UndoHistory *m_history;
     bool m_running = false;
     QPointer<ConfirmPassPanelController> m_passwordPanel;
     QPointer<InputWinController> myInputWinController;

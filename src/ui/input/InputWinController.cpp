@@ -294,6 +294,10 @@ void InputWinController::bookInputData()
     QSet<int> refusedMonths;
     QStringList reasons;
     const auto months = KController::assortDataArray(kept);
+    const KController::ChangeScope change(m_controller,
+                                          kept.size() == 1
+                                              ? tr("Booking of an Entry")
+                                              : tr("Booking of %1 Entries").arg(kept.size()));
     for (auto it = months.cbegin(); it != months.cend(); ++it) {
         const PaymentDataPtr &first = it->constFirst();
         if (QString reason; !m_controller->addData(*it, first->year(), first->month(), &reason)) {

@@ -218,6 +218,8 @@ bool DataListTableModel::setData(const QModelIndex &index, const QVariant &value
     const PaymentDataPtr record = dataAtIndex(index.row());
     if (!record || role != Qt::EditRole || !m_editable)
         return false;
+    const KController::ChangeScope change(
+        m_controller, tr("Change of %1").arg(headerData(index.column(), Qt::Horizontal).toString()));
     // The record reports its change, its month recalculates and notifies,
     // and the rows are shown afresh from there.
     switch (index.column()) {

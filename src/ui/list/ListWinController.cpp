@@ -276,6 +276,7 @@ void ListWinController::buildMenus()
     close->setShortcut(QKeySequence::Close);
 
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
+    edit->setObjectName(QStringLiteral("editMenu"));
     edit->addAction(m_editAction);
     edit->addAction(m_deleteAction);
 
@@ -492,12 +493,18 @@ void ListWinController::deleteData()
                                 tr("Delete %n selected entries?", nullptr, int(records.size())),
                                 QMessageBox::Cancel, this);
     box->setObjectName(QStringLiteral("deleteConfirmation"));
-    box->setInformativeText(tr("Deleted entries cannot be brought back."));
+    box->setInformativeText(tr("Edit > Undo brings them back."));
     QPushButton *remove = box->addButton(tr("Delete"), QMessageBox::DestructiveRole);
     box->setDefaultButton(QMessageBox::Cancel);
     box->setAttribute(Qt::WA_DeleteOnClose);
     connect(remove, &QPushButton::clicked, this,
-            [this, records] { m_controller->deleteData(records); });
+            [this, records] {
+                const KController::ChangeScope change(
+                    m_controller, records.size() == 1
+                                      ? tr("Deletion of an Entry")
+                                      : tr("Deletion of %1 Entries").arg(records.size()));
+                m_controller->deleteData(records);
+            });
     box->open();
 }
 

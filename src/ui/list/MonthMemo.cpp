@@ -2,6 +2,7 @@
 
 #include "ledger/KController.h"
 #include "model/MonthDataList.h"
+#include "model/Notifications.h"
 
 #include <QLocale>
 #include <QPlainTextEdit>
@@ -30,6 +31,15 @@ MonthMemo::MonthMemo(KController *controller, QWidget *parent)
     connect(m_text, &QPlainTextEdit::textChanged, &m_timer, qOverload<>(&QTimer::start));
     connect(&m_timer, &QTimer::timeout, this, &MonthMemo::commit);
     connect(m_controller, &KController::aboutToSaveAllEditedData, this, &MonthMemo::edit);
+    // An undo or redo may change the memo shown; what is being typed wins.
+    connect(Notifications::instance(), &Notifications::dataListHasChanged, this,
+            [this](DataList *list) {
+                if (list != m_list.get() || m_timer.isActive()
+                    || m_text->toPlainText() == m_list->summary())
+                    return;
+                const QSignalBlocker blocker(m_text);
+                m_text->setPlainText(m_list->summary());
+            });
 }
 
 void MonthMemo::showMonth(int year, int month)
@@ -66,6 +76,8 @@ void MonthMemo::edit()
 void MonthMemo::commit()
 {
     edit();
-    if (m_list && m_list->isEdited())
+    if (m_list && m_list->isEdited()) {
+        const KController::ChangeScope change(m_controller, tr("Memo Edit"), true);
         m_controller->keepChange(m_list.get());
+    }
 }

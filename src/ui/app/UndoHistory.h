@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ledger/KController.h"
+
+#include <QObject>
+
+class QAction;
+class QUndoStack;
+
+// The program's one history of changes, for Edit > Undo and Redo in every
+// window. Each change the ledger records is a step; taking it back puts the
+// months it touched back as they were, wherever they are shown. The history
+// lasts for the session and ends when the entries are renumbered or the data
+// folder changes, since its steps hold the old numbers or the old folder.
+class UndoHistory : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit UndoHistory(KController *ledger, QObject *parent = nullptr);
+
+    QAction *undoAction() const { return m_undo; }
+    QAction *redoAction() const { return m_redo; }
+    QUndoStack *stack() const { return m_stack; }
+
+private:
+    void record(const KController::Change &change);
+    void updateActions();
+
+    KController *m_ledger;
+    QUndoStack *m_stack;
+    QAction *m_undo;
+    QAction *m_redo;
+};
