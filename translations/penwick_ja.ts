@@ -656,6 +656,23 @@
         </message>
     </context>
     <context>
+        <name>PWKGraphView</name>
+        <message>
+            <source>%1 %</source>
+            <translation>%1 %</translation>
+        </message>
+        <message>
+            <source>%1, %2: %3 (%4)</source>
+            <comment>category, month: amount (share of the month)</comment>
+            <translation>%1（%2）：%3（%4）</translation>
+        </message>
+        <message>
+            <source>%1: %2 (%3)</source>
+            <comment>category: amount (share)</comment>
+            <translation>%1：%2（%3）</translation>
+        </message>
+    </context>
+    <context>
         <name>PasswordPanels</name>
         <message>
             <source>Enter your password</source>

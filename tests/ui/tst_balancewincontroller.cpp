@@ -4,10 +4,13 @@
 #include "balance/BalanceWinController.h"
 #include "ledger/KController.h"
 #include "storage/ListFile.h"
+#include "widgets/ThemeColors.h"
 
+#include <QApplication>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLocale>
+#include <QStyle>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -111,10 +114,21 @@ void TestBalanceWinController::figuresOfAKnownFolder()
              (QStringList{u"2007. 11"_s, amount(4000), amount(1000), amount(-3000)}));
     QCOMPARE(figures(window, 3), (QStringList{u"2007. 10"_s, u"0"_s, u"0"_s, u"0"_s}));
     QCOMPARE(figures(window, 12), (QStringList{u"2007. 1"_s, u"0"_s, amount(10), amount(10)}));
-    // A deficit stands out.
+    // A deficit stands out in red, and reads on a light ground as on a dark
+    // one; a surplus keeps the theme's text colour.
     auto *deficit = window.findChild<QGroupBox *>(u"box2"_s)->findChild<QLabel *>(u"balance"_s);
-    QVERIFY(deficit->palette().color(QPalette::WindowText)
-            != window.palette().color(QPalette::WindowText));
+    auto *surplus = window.findChild<QGroupBox *>(u"box1"_s)->findChild<QLabel *>(u"balance"_s);
+    QPalette dark(QColor(0x35, 0x35, 0x35));
+    dark.setColor(QPalette::WindowText, QColor(0xee, 0xee, 0xee));
+    for (const QPalette &theme : {QApplication::style()->standardPalette(), dark}) {
+        window.setPalette(theme);
+        const QColor ground = theme.color(QPalette::Window);
+        const QColor red = deficit->palette().color(QPalette::WindowText);
+        QVERIFY((red.hslHue() < 15 || red.hslHue() > 345) && red.hslSaturation() > 150);
+        QVERIFY(ThemeColors::contrastRatio(red, ground) >= 4.5);
+        QCOMPARE(surplus->palette().color(QPalette::WindowText),
+                 theme.color(QPalette::WindowText));
+    }
 
     // Next month in December: the column ends with the current month.
     window.showDataOfYear(2007, 13);

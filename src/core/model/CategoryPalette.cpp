@@ -13,20 +13,20 @@ constexpr RgbaColor fromRgb(unsigned rgb)
 }
 
 constexpr std::array<RgbaColor, 14> palette{{
-    fromRgb(0x4e79a7), // blue
-    fromRgb(0xf28e2b), // orange
-    fromRgb(0xe15759), // red
-    fromRgb(0x76b7b2), // teal
-    fromRgb(0x59a14f), // green
-    fromRgb(0xedc948), // yellow
-    fromRgb(0xb07aa1), // purple
-    fromRgb(0xff9da7), // pink
-    fromRgb(0x9c755f), // brown
-    fromRgb(0xa0cbe8), // light blue
-    fromRgb(0xffbe7d), // light orange
-    fromRgb(0x8cd17d), // light green
-    fromRgb(0xd37295), // rose
-    fromRgb(0xb6992d), // olive
+    fromRgb(0xe69f00), // orange
+    fromRgb(0x56b4e9), // sky blue
+    fromRgb(0x009e73), // bluish green
+    fromRgb(0xf0e442), // yellow
+    fromRgb(0x0072b2), // blue
+    fromRgb(0xd55e00), // vermilion
+    fromRgb(0xcc79a7), // reddish purple
+    fromRgb(0xb82040), // crimson
+    fromRgb(0xf8b0a0), // peach
+    fromRgb(0x884880), // plum
+    fromRgb(0x68d8d0), // aqua
+    fromRgb(0x9078e8), // violet
+    fromRgb(0x98a058), // olive
+    fromRgb(0x805800), // brown
 }};
 
 } // namespace

@@ -4,12 +4,13 @@
 
 #include <QList>
 
-// The colours categories get when nobody chose one: the nine hues of the
-// Tableau 10 palette (its gray is left to income), then five of the paler
-// and darker partners Tableau 20 pairs with them, fourteen in all, so that
-// the initial categories all differ. The palette was made for hues of
-// similar weight that stay apart for most colour-blind readers. Past the
-// fourteenth it starts again.
+// The colours categories get when nobody chose one: the seven colours of
+// the Okabe-Ito palette (its black is left out: income stays neutral), made
+// to stay apart for colour-blind readers, then seven more picked to lie at
+// least 20 CIEDE2000 units from every other one and as far as could be from
+// each other under simulated red-green colour blindness, with lightness and
+// chroma kept within the range of the first seven. Past the fourteenth it
+// starts again.
 namespace CategoryPalette {
 
 int size();

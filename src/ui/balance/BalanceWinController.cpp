@@ -6,7 +6,9 @@
 #include "model/Notifications.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
+#include "widgets/ThemeColors.h"
 
+#include <QEvent>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -123,10 +125,13 @@ void BalanceWinController::setDataToBox(Box &box)
     box.expense->setText(amountText(expense));
     box.income->setText(amountText(income));
     box.balance->setText(amountText(balance));
-    QPalette palette = box.balance->palette();
-    palette.setColor(QPalette::WindowText,
-                     balance < 0 ? QColor(Qt::red).darker(130)
-                                 : this->palette().color(QPalette::WindowText));
+    // A deficit in a red that reads on the window's ground; anything else in
+    // the window's own colours.
+    QPalette palette;
+    if (balance < 0) {
+        palette.setColor(QPalette::WindowText,
+                         ThemeColors::alertRed(this->palette().color(QPalette::Window)));
+    }
     box.balance->setPalette(palette);
 }
 
@@ -136,6 +141,15 @@ void BalanceWinController::dataListHasChanged(DataList *list)
         if (box.list.get() == list)
             setDataToBox(box);
     }
+}
+
+void BalanceWinController::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange) {
+        for (Box &box : m_boxes)
+            setDataToBox(box);
+    }
+    QWidget::changeEvent(event);
 }
 
 void BalanceWinController::hideEvent(QHideEvent *event)

@@ -41,6 +41,8 @@ public:
 
 protected:
     void hideEvent(QHideEvent *event) override;
+    // A new theme gives deficits a red that reads on it.
+    void changeEvent(QEvent *event) override;
 
 private:
     struct Box

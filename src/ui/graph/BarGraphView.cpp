@@ -3,6 +3,7 @@
 #include "settings/Settings.h"
 
 #include <QDate>
+#include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
@@ -62,12 +63,13 @@ QDate BarGraphView::monthOfRow(int row) const
     return QDate(targetYear(), targetMonth(), 1).addMonths(row - m_numberOfGraph + 1);
 }
 
-QString BarGraphView::tooltipForItem(int index) const
+QString BarGraphView::tooltipForItem(int index, const QPointF &) const
 {
     const int count = categoryCount();
-    if (count == 0 || index >= m_numberOfGraph * count)
+    const ChartEntries &entries = chartData().entries();
+    if (count == 0 || index >= m_numberOfGraph * count || index / count >= entries.size())
         return {};
-    return PWKGraphView::tooltipForItem(index % count);
+    return amountTip(index % count, entries.at(index / count), true);
 }
 
 void BarGraphView::drawChart(QPainter &painter)
@@ -75,10 +77,8 @@ void BarGraphView::drawChart(QPainter &painter)
     const ChartData &chart = chartData();
     const int count = categoryCount();
     const double unit = (width() - 2 * kSideMargin) / double(chart.calculateMaxTotal());
-    // The year, then the month.
-    const QString format = localizedFormat(
-        QT_TRANSLATE_NOOP("Localizable", "BarGraph Label Format"), QStringLiteral("%1/%2"));
     const QList<ChartEntry> &entries = chart.entries();
+    const QFontMetricsF labelMetrics(labelFont());
 
     QList<QPainterPath> labelRects;
     double top = kFirstRowTop;
@@ -86,7 +86,7 @@ void BarGraphView::drawChart(QPainter &painter)
         const ChartEntry &entry = entries.at(row);
         const QRectF labelRect(7.0, top - 23.0, 90.0, 23.0);
         drawText(painter, labelRect, Qt::AlignLeft | Qt::AlignVCenter,
-                 format.arg(entry.year).arg(entry.month));
+                 monthLabel(entry.year, entry.month), inkColor());
         QPainterPath labelPath;
         labelPath.addRect(labelRect);
         labelRects.append(labelPath);
@@ -108,14 +108,20 @@ void BarGraphView::drawChart(QPainter &painter)
             const QColor color = colorOf(i);
             painter.fillPath(segment, color);
             addHitPath(segment);
+            // A pixel of the ground, on whole pixels, parts a segment from
+            // the one before it.
+            if (x > kSideMargin && width > 0) {
+                painter.fillRect(QRectF(std::round(x), segmentTop, 1.0, height),
+                                 groundColor());
+            }
 
-            const QPainterPath label = labelBezierPathForCategory(
-                i, QPointF(x + kLabelPadding, segmentTop + kLabelPadding));
-            if (label.boundingRect().width() < width - 2 * kLabelPadding) {
-                // The outline is upright in y-up coordinates: mirror it into
-                // this flipped view, its baseline 27 points below the top.
-                const QTransform upright(1, 0, 0, -1, 0, 2 * segmentTop + kBarHeight - 5.0);
-                painter.fillPath(upright.map(label), labelColorOn(color));
+            const QString name = categoryName(i);
+            if (labelMetrics.horizontalAdvance(name) < width - 2 * kLabelPadding) {
+                painter.setFont(labelFont());
+                drawText(painter,
+                         QRectF(x + kLabelPadding, segmentTop, width - kLabelPadding, height),
+                         Qt::AlignLeft | Qt::AlignVCenter, name, labelColorOn(color));
+                painter.setFont(font());
             }
             x += width;
         }

@@ -4,7 +4,8 @@
 
 // Stacked bars, one per month, oldest at the top and the month on show at the
 // bottom; each bar holds a segment per checked category in category order,
-// named inside when it is wide enough. The largest month spans the width.
+// named inside when it is wide enough, parted from the one before by a pixel
+// of the ground. The largest month spans the width.
 //
 // Hit-test paths: row * C + i for the segment of category i in row (C the
 // category count), then n * C + row for the month label of each row.
@@ -24,7 +25,8 @@ public:
     ChartEntries dataArrayForDrawing() const override;
     // The visible width; 75 points of height per bar.
     QSize preferredChartSize() const override;
-    QString tooltipForItem(int index) const override;
+    // The segment's category, month, amount and share of the month.
+    QString tooltipForItem(int index, const QPointF &point) const override;
 
 protected:
     bool isFlipped() const override { return true; }

@@ -3,8 +3,10 @@
 #include "graph/PWKGraphView.h"
 
 // One line per checked category across January to December of the target
-// year, over a month axis (the target month's label in red) and an amount
-// axis whose maximum and labels are rounded to a few digits.
+// year, with a dot at each month, over a month axis (the target month's label
+// in red) and an amount axis whose maximum and labels are rounded to a few
+// digits, with light rules across at the labels. The line under the pointer,
+// else the highlighted one, is drawn on top and the others fade.
 //
 // Hit-test paths: 0..C-1 the lines (C the category count), C..C+11 the month
 // labels January to December.
@@ -18,7 +20,8 @@ public:
     ChartEntries dataArrayForDrawing() const override;
     // The visible area, but never narrower than twelve months need.
     QSize preferredChartSize() const override;
-    QString tooltipForItem(int index) const override;
+    // The line's category, the month under the pointer, amount and share.
+    QString tooltipForItem(int index, const QPointF &point) const override;
 
     // The amount axis of the last draw: the top of the scale and the values
     // of the labels shown, from the bottom up.
@@ -33,8 +36,16 @@ public:
 protected:
     void drawChart(QPainter &painter) override;
     void handleClick(int index, bool doubleClick) override;
+    QRectF tooltipArea(int index, const QPointF &point) const override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
 
 private:
+    // The month (1 to 12) whose column holds chart x coordinate `x`.
+    int monthAt(double x) const;
+    void setPointedCategory(int category);
+
+    int m_pointedCategory = -1;
     qint64 m_axisMaximum = 0;
     QList<qint64> m_axisLabels;
 };

@@ -1,16 +1,16 @@
 #include "graph/PWKGraphView.h"
 
 #include "graph/ChartDataSource.h"
+#include "widgets/ThemeColors.h"
 
 #include <QCoreApplication>
 #include <QDate>
 #include <QFontDatabase>
 #include <QHelpEvent>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
-
-#include <cmath>
 
 PWKGraphView::PWKGraphView(QWidget *parent)
     : QWidget(parent)
@@ -106,9 +106,33 @@ int PWKGraphView::categoryForMousePoint(const QPointF &point) const
     return -1;
 }
 
-QString PWKGraphView::tooltipForItem(int index) const
+QString PWKGraphView::tooltipForItem(int index, const QPointF &) const
 {
-    return categoryName(index);
+    if (index >= categoryCount() || m_chartData.entries().isEmpty())
+        return {};
+    return amountTip(index, m_chartData.entries().constFirst(), false);
+}
+
+QRectF PWKGraphView::tooltipArea(int index, const QPointF &) const
+{
+    return m_graphBeziers.at(index).boundingRect();
+}
+
+QString PWKGraphView::amountTip(int category, const ChartEntry &entry, bool namingMonth) const
+{
+    const qint64 amount = entry.data.value(category);
+    const qint64 total = m_chartData.calculateTotalOfData(entry.data);
+    const QLocale locale;
+    // With nothing spent there is no share to give.
+    const QString share = total == 0
+        ? QStringLiteral("–")
+        : tr("%1 %").arg(locale.toString(double(amount) / double(total) * 100.0, 'f', 1));
+    const QString amountText = locale.toString(amount);
+    if (namingMonth)
+        return tr("%1, %2: %3 (%4)", "category, month: amount (share of the month)")
+            .arg(categoryName(category), monthLabel(entry.year, entry.month), amountText, share);
+    return tr("%1: %2 (%3)", "category: amount (share)")
+        .arg(categoryName(category), amountText, share);
 }
 
 QFont PWKGraphView::labelFont()
@@ -130,33 +154,25 @@ QString PWKGraphView::localizedFormat(const char *key, const QString &english)
     return text == QLatin1StringView(key) ? english : text;
 }
 
-QPainterPath PWKGraphView::labelBezierPathForCategory(int category, const QPointF &point) const
+QString PWKGraphView::monthLabel(int year, int month)
 {
-    return labelPath(categoryName(category), point);
-}
-
-QPainterPath PWKGraphView::labelPath(const QString &text, const QPointF &point)
-{
-    QPainterPath glyphs;
-    glyphs.addText(QPointF(0, 0), labelFont(), text);
-    // Glyph outlines come with y pointing down; the charts place labels in
-    // y-up coordinates.
-    return QTransform(1, 0, 0, -1, point.x(), point.y()).map(glyphs);
+    // The year, then the month.
+    return localizedFormat(QT_TRANSLATE_NOOP("Localizable", "BarGraph Label Format"),
+                           QStringLiteral("%1/%2"))
+        .arg(year)
+        .arg(month);
 }
 
 QColor PWKGraphView::labelColorOn(const QColor &background)
 {
     // Whichever of black and white has the higher contrast ratio against the
     // colour, from its relative luminance.
-    const auto linear = [](float c) {
-        return c <= 0.04045f ? c / 12.92f : std::pow((c + 0.055f) / 1.055f, 2.4f);
-    };
-    const QColor rgb = background.toRgb();
-    const float luminance = 0.2126f * linear(rgb.redF()) + 0.7152f * linear(rgb.greenF())
-        + 0.0722f * linear(rgb.blueF());
-    const float onBlack = (luminance + 0.05f) / 0.05f;
-    const float onWhite = 1.05f / (luminance + 0.05f);
-    return onBlack >= onWhite ? QColor(Qt::black) : QColor(Qt::white);
+    const QColor black(Qt::black);
+    const QColor white(Qt::white);
+    return ThemeColors::contrastRatio(black, background)
+            >= ThemeColors::contrastRatio(white, background)
+        ? black
+        : white;
 }
 
 void PWKGraphView::addHitPath(const QPainterPath &path)
@@ -186,11 +202,27 @@ void PWKGraphView::drawText(QPainter &painter, const QRectF &rect, int flags, co
     painter.setTransform(toChart);
 }
 
+QColor PWKGraphView::groundColor() const
+{
+    return palette().color(QPalette::Base);
+}
+
+QColor PWKGraphView::inkColor() const
+{
+    return palette().color(QPalette::Text);
+}
+
+QColor PWKGraphView::fadedInk(double weight) const
+{
+    return ThemeColors::mix(groundColor(), inkColor(), weight);
+}
+
 void PWKGraphView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    // Charts read like paper whatever the theme: white ground, dark ink.
-    painter.fillRect(rect(), Qt::white);
+    // The ground of a text field, so that a chart follows a dark theme as
+    // the tables beside it do.
+    painter.fillRect(rect(), groundColor());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::TextAntialiasing);
     painter.setTransform(chartTransform(), true);
@@ -203,14 +235,14 @@ bool PWKGraphView::event(QEvent *event)
     if (event->type() == QEvent::ToolTip) {
         const auto *help = static_cast<QHelpEvent *>(event);
         const int index = categoryForMousePoint(help->pos());
-        const QString tip = index < 0 ? QString() : tooltipForItem(index);
+        const QPointF local = chartTransform().inverted().map(QPointF(help->pos()));
+        const QString tip = index < 0 ? QString() : tooltipForItem(index, local);
         if (tip.isEmpty()) {
             QToolTip::hideText();
             event->ignore();
         } else {
             // The tip stays while the pointer is over the same item.
-            const QRect area =
-                chartTransform().mapRect(m_graphBeziers.at(index).boundingRect()).toAlignedRect();
+            const QRect area = chartTransform().mapRect(tooltipArea(index, local)).toAlignedRect();
             QToolTip::showText(help->globalPos(), tip, this, area);
         }
         return true;

@@ -57,16 +57,16 @@ public:
     // The index of the first hit-test path that holds the point (widget
     // coordinates), -1 for none. Valid for the last draw.
     int categoryForMousePoint(const QPointF &point) const;
-    // The tool tip of a hit-test index; empty for none.
-    virtual QString tooltipForItem(int index) const;
+    // The tool tip of hit-test index `index` with the pointer at `point`
+    // (chart coordinates); empty for none. By default the category of the
+    // first month shown, with its amount and share.
+    virtual QString tooltipForItem(int index, const QPointF &point) const;
 
-    // The category's name as a filled outline in the label font, its baseline
-    // starting at `point`, glyphs upright in y-up coordinates.
-    QPainterPath labelBezierPathForCategory(int category, const QPointF &point) const;
-    static QPainterPath labelPath(const QString &text, const QPointF &point);
     // Black or white, whichever reads better on the colour.
     static QColor labelColorOn(const QColor &background);
     static QFont labelFont();
+    // A month as the charts name it, year and month.
+    static QString monthLabel(int year, int month);
     // The format of the application's string table ("Localizable") under
     // `key`, or the English one while the table has no text for it: a format
     // key drawn as it stands would fill the chart with its own name. Callers
@@ -92,6 +92,13 @@ protected:
     virtual void drawChart(QPainter &painter) = 0;
     // A click (or double click) on hit-test index `index`.
     virtual void handleClick(int index, bool doubleClick);
+    // Where the tool tip of `index`, shown with the pointer at `point`, stays
+    // up (chart coordinates): by default the whole of its path.
+    virtual QRectF tooltipArea(int index, const QPointF &point) const;
+    // "Name: amount (share %)" of a category in one month's entry, the share
+    // taken of what the chart shows of that month; with the month named
+    // when the chart shows several.
+    QString amountTip(int category, const ChartEntry &entry, bool namingMonth) const;
 
     void addHitPath(const QPainterPath &path);
     int hitPathCount() const { return int(m_graphBeziers.size()); }
@@ -100,7 +107,13 @@ protected:
     QString categoryName(int category) const;
     // Text drawn upright into a rectangle given in chart coordinates.
     void drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text,
-                  const QColor &color = Qt::black) const;
+                  const QColor &color) const;
+    // The chart's colours, from the palette in force: its ground, its ink,
+    // and the ink faded towards the ground by `weight` (0 ground, 1 ink),
+    // for axes, grid lines and notes.
+    QColor groundColor() const;
+    QColor inkColor() const;
+    QColor fadedInk(double weight) const;
 
     void paintEvent(QPaintEvent *event) override;
     bool event(QEvent *event) override;
