@@ -75,7 +75,7 @@ for ((i = 0; i < runs; i++)); do
   end=$(date +%s%N)
   pid=$(gdbus call --session --dest org.freedesktop.DBus --object-path /org/freedesktop/DBus \
           --method org.freedesktop.DBus.GetConnectionUnixProcessID org.penwick.Penwick.Search |
-        sed 's/[^0-9]//g')
+        sed 's/.* \([0-9]*\),)/\1/')
   kill -TERM "$pid"
   while kill -0 "$pid" 2>/dev/null; do sleep 0.01; done
   times+=($(((end - start) / 1000000)))

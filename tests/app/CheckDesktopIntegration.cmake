@@ -4,18 +4,6 @@
 # starts the installed program for.
 set(prefix ${BUILD_DIR}/desktop-integration-check)
 
-# Both desktops ask under the name the bus starts the installed program for.
-set(name "org.penwick.Penwick.Search")
-file(READ ${prefix}/share/dbus-1/services/${name}.service service)
-if(NOT service MATCHES "Name=${name}\nExec=${prefix}/bin/penwick --background\n")
-  message(FATAL_ERROR "the search's service file does not start the installed program:\n${service}")
-endif()
-file(READ ${prefix}/share/gnome-shell/search-providers/org.penwick.Penwick.search-provider.ini ini)
-file(READ ${prefix}/share/krunner/dbusplugins/org.penwick.Penwick.desktop runner)
-if(NOT ini MATCHES "DesktopId=org.penwick.Penwick.desktop\nBusName=${name}\nObjectPath=/org/penwick/Penwick/SearchProvider\n"
-   OR NOT runner MATCHES "Service=${name}\nX-Plasma-DBusRunner-Path=/org/penwick/Penwick/Runner\n")
-  message(FATAL_ERROR "the search provider or the runner asks another name:\n${ini}\n${runner}")
-endif()
 file(REMOVE_RECURSE ${prefix})
 
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix}

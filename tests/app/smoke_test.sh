@@ -144,7 +144,7 @@ stop_activated() {
   local pid
   pid=$(gdbus call --session --dest org.freedesktop.DBus --object-path /org/freedesktop/DBus \
           --method org.freedesktop.DBus.GetConnectionUnixProcessID org.penwick.Penwick.Search |
-        sed 's/[^0-9]//g')
+        sed 's/.* \([0-9]*\),)/\1/')
   kill -TERM "$pid"
   for _ in $(seq 100); do kill -0 "$pid" 2>/dev/null || return 0; sleep 0.1; done
   fail "the program started for the search did not quit after SIGTERM"
