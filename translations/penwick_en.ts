@@ -879,6 +879,21 @@
         </message>
     </context>
     <context>
+        <name>SearchService</name>
+        <message>
+            <source>There is no session bus: %1</source>
+            <translation>There is no session bus: %1</translation>
+        </message>
+        <message>
+            <source>The search objects could not be registered.</source>
+            <translation>The search objects could not be registered.</translation>
+        </message>
+        <message>
+            <source>Another program already answers searches as %1.</source>
+            <translation>Another program already answers searches as %1.</translation>
+        </message>
+    </context>
+    <context>
         <name>ScriptService</name>
         <message>
             <source>There is no session bus: %1</source>
@@ -956,6 +971,10 @@
     </context>
     <context>
         <name>main</name>
+        <message>
+            <source>Start without a window, to answer the desktop's search; the windows open when the program is launched again.</source>
+            <translation>Start without a window, to answer the desktop's search; the windows open when the program is launched again.</translation>
+        </message>
         <message>
             <source>A household account book.</source>
             <translation>A household account book.</translation>

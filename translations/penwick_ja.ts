@@ -877,6 +877,21 @@
         </message>
     </context>
     <context>
+        <name>SearchService</name>
+        <message>
+            <source>There is no session bus: %1</source>
+            <translation>セッションバスがありません: %1</translation>
+        </message>
+        <message>
+            <source>The search objects could not be registered.</source>
+            <translation>検索用のオブジェクトを登録できませんでした。</translation>
+        </message>
+        <message>
+            <source>Another program already answers searches as %1.</source>
+            <translation>ほかのプログラムがすでに %1 として検索に応答しています。</translation>
+        </message>
+    </context>
+    <context>
         <name>ScriptService</name>
         <message>
             <source>There is no session bus: %1</source>
@@ -954,6 +969,10 @@
     </context>
     <context>
         <name>main</name>
+        <message>
+            <source>Start without a window, to answer the desktop's search; the windows open when the program is launched again.</source>
+            <translation>ウインドウを開かずに起動し、デスクトップの検索に応答します。もう一度起動するとウインドウが開きます。</translation>
+        </message>
         <message>
             <source>A household account book.</source>
             <translation>家計簿アプリケーション。</translation>

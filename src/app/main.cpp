@@ -3,6 +3,7 @@
 // application controller.
 
 #include "ScriptService.h"
+#include "SearchService.h"
 #include "SingleInstance.h"
 #include "UnixSignalQuit.h"
 
@@ -18,8 +19,10 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
+#include <QTimer>
 #include <QTranslator>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -65,6 +68,11 @@ int main(int argc, char *argv[])
     parser.setApplicationDescription(QCoreApplication::translate("main", "A household account book."));
     parser.addHelpOption();
     parser.addVersionOption();
+    const QCommandLineOption background(
+        QStringLiteral("background"),
+        QCoreApplication::translate("main", "Start without a window, to answer the desktop's search; "
+                                            "the windows open when the program is launched again."));
+    parser.addOption(background);
     parser.addPositionalArgument(QStringLiteral("files"),
                                  QCoreApplication::translate("main", "Month files to show (Data_YEAR_MONTH.Penwick)."),
                                  QStringLiteral("[files...]"));
@@ -108,6 +116,20 @@ int main(int argc, char *argv[])
     ScriptService scripting(&controller, QDBusConnection::sessionBus());
     if (!scripting.start())
         qInfo("Scripting is not available: %s", qPrintable(scripting.errorString()));
+    SearchService search(&controller, QDBusConnection::sessionBus());
+    if (!search.start())
+        qInfo("The desktop's search is not available: %s", qPrintable(search.errorString()));
+
+    // Started for the desktop's search, the program leaves again once the
+    // desktop has stopped asking for a while and the user has not come.
+    QTimer idle;
+    idle.setSingleShot(true);
+    idle.setInterval(std::chrono::minutes(5));
+    QObject::connect(&idle, &QTimer::timeout, &controller, [&controller] {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        if (std::none_of(windows.cbegin(), windows.cend(), [](const QWidget *w) { return w->isVisible(); }))
+            controller.terminate();
+    });
 
     // Closing the last window quits as the menu does: months that could not
     // be saved are asked about first.
@@ -124,6 +146,12 @@ int main(int argc, char *argv[])
     QObject::connect(&app, &QGuiApplication::commitDataRequest, controller.ledger(),
                      &KController::saveAllEditedData, Qt::DirectConnection);
 
-    controller.confirmPassword();
+    if (parser.isSet(background)) {
+        QObject::connect(&search, &SearchService::searched, &idle, qOverload<>(&QTimer::start));
+        idle.start();
+        controller.startInBackground();
+    } else {
+        controller.confirmPassword();
+    }
     return app.exec();
 }

@@ -22,3 +22,37 @@ QVariantMap plainArguments(const QVariantMap &arguments)
     }
     return plain;
 }
+
+QDBusArgument &operator<<(QDBusArgument &argument, const RunnerMatch &match)
+{
+    argument.beginStructure();
+    argument << match.id << match.text << match.iconName << match.type << match.relevance
+             << match.properties;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, RunnerMatch &match)
+{
+    argument.beginStructure();
+    argument >> match.id >> match.text >> match.iconName >> match.type >> match.relevance
+        >> match.properties;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument &operator<<(QDBusArgument &argument, const RunnerAction &action)
+{
+    argument.beginStructure();
+    argument << action.id << action.text << action.iconName;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, RunnerAction &action)
+{
+    argument.beginStructure();
+    argument >> action.id >> action.text >> action.iconName;
+    argument.endStructure();
+    return argument;
+}

@@ -1,7 +1,9 @@
 # Installs the build into a scratch prefix and checks what a desktop needs
-# there: a valid desktop entry, software-centre metadata that validates, and
-# a file type that claims "*.Penwick".
+# there: a valid desktop entry, software-centre metadata that validates, a
+# file type that claims "*.Penwick", and the desktop's search, which the bus
+# starts the installed program for.
 set(prefix ${BUILD_DIR}/desktop-integration-check)
+
 file(REMOVE_RECURSE ${prefix})
 
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix}
@@ -18,7 +20,10 @@ foreach(file bin/penwick bin/penwickctl
              share/zsh/vendor-completions/_penwickctl
              share/fish/vendor_completions.d/penwickctl.fish
              share/mime/packages/org.penwick.Penwick.xml
-             share/icons/hicolor/scalable/apps/org.penwick.Penwick.svg)
+             share/icons/hicolor/scalable/apps/org.penwick.Penwick.svg
+             share/dbus-1/services/org.penwick.Penwick.Search.service
+             share/gnome-shell/search-providers/org.penwick.Penwick.search-provider.ini
+             share/krunner/dbusplugins/org.penwick.Penwick.desktop)
   if(NOT EXISTS ${prefix}/${file})
     message(FATAL_ERROR "${file} was not installed")
   endif()
@@ -62,5 +67,18 @@ endforeach()
 file(READ ${prefix}/share/applications/org.penwick.Penwick.desktop entry)
 if(NOT entry MATCHES "MimeType=application/x-penwick-month;")
   message(FATAL_ERROR "the desktop entry does not open month files")
+endif()
+
+# Both desktops ask under the name the bus starts the installed program for.
+set(name "org.penwick.Penwick.Search")
+file(READ ${prefix}/share/dbus-1/services/${name}.service service)
+if(NOT service MATCHES "Name=${name}\nExec=${prefix}/bin/penwick --background\n")
+  message(FATAL_ERROR "the search's service file does not start the installed program:\n${service}")
+endif()
+file(READ ${prefix}/share/gnome-shell/search-providers/org.penwick.Penwick.search-provider.ini ini)
+file(READ ${prefix}/share/krunner/dbusplugins/org.penwick.Penwick.desktop runner)
+if(NOT ini MATCHES "DesktopId=org.penwick.Penwick.desktop\nBusName=${name}\nObjectPath=/org/penwick/Penwick/SearchProvider\n"
+   OR NOT runner MATCHES "Service=${name}\nX-Plasma-DBusRunner-Path=/org/penwick/Penwick/Runner\n")
+  message(FATAL_ERROR "the search provider or the runner asks another name:\n${ini}\n${runner}")
 endif()
 file(REMOVE_RECURSE ${prefix})

@@ -3,11 +3,14 @@
 # under scripts/with-own-x-server.sh and dbus-run-session) with a home of its
 # own, and checks what a user would: its windows appear, a second launch on the same data folder
 # hands over and exits, scripts reach it, the program quits cleanly when told
-# to, and a killed instance does not lock the folder for the next one.
+# to, a killed instance does not lock the folder for the next one, and the
+# desktop's search starts it in the background and finds entries (unless it
+# is locked).
 set -euo pipefail
 
 app=$1
 ctl=$2
+search_service=$3
 scratch=$(mktemp -d)
 pids=()
 cleanup() {
@@ -109,6 +112,67 @@ wait "$killed" 2>/dev/null || true
 start
 wait_for_window "Password"
 stop "$last_pid"
+
+# The desktop's search on a bus of its own that starts the program as the
+# installed service file says, with this build's program.
+mkdir -p "$scratch/services"
+sed "s|@CMAKE_INSTALL_FULL_BINDIR@/penwick|$app|" "$search_service" \
+  >"$scratch/services/org.penwick.Penwick.Search.service"
+cat >"$scratch/bus.conf" <<CONF
+<busconfig>
+  <type>session</type>
+  <listen>unix:tmpdir=$scratch</listen>
+  <servicedir>$scratch/services</servicedir>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+CONF
+dbus-daemon --config-file="$scratch/bus.conf" --nofork --print-address=3 \
+  3>"$scratch/bus.address" 2>>"$scratch/stderr.log" &
+pids+=($!)
+until [[ -s $scratch/bus.address ]]; do sleep 0.05; done
+export DBUS_SESSION_BUS_ADDRESS=$(head -n1 "$scratch/bus.address")
+
+provider=(gdbus call --session --dest org.penwick.Penwick.Search
+          --object-path /org/penwick/Penwick/SearchProvider)
+runner=(gdbus call --session --dest org.penwick.Penwick.Search --object-path /org/penwick/Penwick/Runner)
+# Stops the program the bus started (not our child) and waits for it to go.
+stop_activated() {
+  local pid
+  pid=$(gdbus call --session --dest org.freedesktop.DBus --object-path /org/freedesktop/DBus \
+          --method org.freedesktop.DBus.GetConnectionUnixProcessID org.penwick.Penwick.Search |
+        sed 's/.* \([0-9]*\),)/\1/')
+  kill -TERM "$pid"
+  for _ in $(seq 100); do kill -0 "$pid" 2>/dev/null || return 0; sleep 0.1; done
+  fail "the program started for the search did not quit after SIGTERM"
+}
+
+printf '[General]\nVersion=1\nDataPath=%s\n' "$folder" >"$XDG_CONFIG_HOME/Penwick/Penwick.conf"
+found=$("${provider[@]}" --method org.gnome.Shell.SearchProvider2.GetInitialResultSet "['Smoke']") \
+  || fail "the bus did not start the program for the search"
+id=$(grep -o "200605:[0-9]*:[0-9a-f]*" <<<"$found") || fail "the search did not find the booked entry: $found"
+if xwininfo -root -tree | grep -q '"Book Entries'; then fail "a start for the search opened a window"; fi
+"${provider[@]}" --method org.gnome.Shell.SearchProvider2.GetResultMetas "['$id']" |
+  grep -q "2006/5/7 .*Smoke test" || fail "the search result does not read as the entry"
+"${runner[@]}" --method org.kde.krunner1.Match "Smoke" | grep -q "$id" || fail "the runner did not match"
+"${provider[@]}" --method org.gnome.Shell.SearchProvider2.ActivateResult "$id" "['Smoke']" 0 >/dev/null
+wait_for_window "May 2006"
+stop_activated
+
+# Locked, it answers nothing and shows no window.
+printf '[General]\nVersion=1\nDataPath=%s\nse-XCMD=pWNtzVs0HB6cU\n' "$folder" \
+  >"$XDG_CONFIG_HOME/Penwick/Penwick.conf"
+[[ $("${provider[@]}" --method org.gnome.Shell.SearchProvider2.GetInitialResultSet "['Smoke']") == "(@as [],)" ]] \
+  || fail "a locked program answered the search"
+[[ $("${runner[@]}" --method org.kde.krunner1.Match "Smoke") == "(@a(sssida{sv}) [],)" ]] \
+  || fail "a locked program answered the runner"
+"${provider[@]}" --method org.gnome.Shell.SearchProvider2.ActivateResult "$id" "['Smoke']" 0 >/dev/null
+sleep 0.5
+if xwininfo -root -tree | grep -qE '"(Password|May 2006)'; then fail "a locked program opened a window"; fi
+stop_activated
 
 if grep -iE 'warning|critical|fatal' "$scratch/stderr.log" | grep -v 'XDG_RUNTIME_DIR' >&2; then
   fail "the program complained"

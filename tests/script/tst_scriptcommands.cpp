@@ -3,7 +3,10 @@
 
 #include "ledger/KController.h"
 #include "model/MonthDataList.h"
+#include "model/NumberValue.h"
 #include "script/ScriptCommands.h"
+#include "script/SearchResults.h"
+#include "search/LedgerSearch.h"
 
 #include <QDate>
 #include <QFileInfo>
@@ -26,6 +29,9 @@ private slots:
     void extractionKeysFromScript();
     void extractionByScriptSelectsRecords();
     void recordPropertiesForScripts();
+    void desktopSearchAcrossMonths_data();
+    void desktopSearchAcrossMonths();
+    void desktopResultsNameTheirEntry();
 
 private:
     TestDataFolder m_home;
@@ -190,6 +196,77 @@ void TestScriptCommands::recordPropertiesForScripts()
     QCOMPARE(shown, (QStringList{u"2006"_s, u"5"_s, u"3"_s, u"1"_s, u"Bread\tand milk"_s,
                                  u"12.75"_s, u"0"_s}));
     QCOMPARE(properties.value(u"description"_s).toString(), record.descriptionForScript());
+}
+
+namespace {
+// Entries of several months, booked out of order; words find them by their
+// details as the list window's search field does.
+void bookSearchedEntries(KController &controller)
+{
+    controller.addData({std::make_shared<PaymentData>(2025, 3, 2, 0, u"Bakery rolls"_s, 300.5f, 0),
+                        std::make_shared<PaymentData>(2006, 5, 1, 0, u"Bakery"_s, 80, 0),
+                        std::make_shared<PaymentData>(2024, 12, 31, 1, u"Train"_s, 2000, 1),
+                        std::make_shared<PaymentData>(2025, 3, 14, 0, u"Bakery"_s, 1550, 0),
+                        std::make_shared<PaymentData>(2025, 1, 5, 0, u"bakery"_s, 100, 0)});
+}
+} // namespace
+
+void TestScriptCommands::desktopSearchAcrossMonths_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QStringList>("found");
+    QTest::newRow("newest first, literal case")
+        << u"Bakery"_s << QStringList{u"2025/3/14 Bakery"_s, u"2025/3/2 Bakery rolls"_s, u"2006/5/1 Bakery"_s};
+    QTest::newRow("any of the words") << u"rolls Train"_s
+                                      << QStringList{u"2025/3/2 Bakery rolls"_s, u"2024/12/31 Train"_s};
+    QTest::newRow("commas split too") << u"Train,bakery"_s
+                                      << QStringList{u"2025/1/5 bakery"_s, u"2024/12/31 Train"_s};
+    QTest::newRow("nothing asked") << u" "_s << QStringList();
+    QTest::newRow("nothing found") << u"Taxi"_s << QStringList();
+}
+
+void TestScriptCommands::desktopSearchAcrossMonths()
+{
+    QFETCH(QString, words);
+    QFETCH(QStringList, found);
+    bookSearchedEntries(*m_controller);
+    // A fresh controller, as after a start: the search reads every month.
+    KController fresh;
+    fresh.readListPreference();
+    QStringList shown;
+    for (const QString &id : SearchResults::resultIDs(fresh, words)) {
+        const auto record = SearchResults::entryForResultID(fresh, id);
+        shown.append(QStringLiteral("%1/%2/%3 %4").arg(record->year()).arg(record->month())
+                         .arg(record->date()).arg(record->details()));
+    }
+    QCOMPARE(shown, found);
+}
+
+void TestScriptCommands::desktopResultsNameTheirEntry()
+{
+    bookSearchedEntries(*m_controller);
+    const QString id = SearchResults::resultIDs(*m_controller, u"Bakery"_s).constFirst();
+    const auto record = SearchResults::entryForResultID(*m_controller, id);
+    QCOMPARE(LedgerSearch::entryText(*record),
+             u"2025/3/14 "_s + record->categoryAsName() + u" Bakery "_s + amountText(1550));
+
+    // An entry booked before it in its month moves it down; the ID still
+    // finds it. Changed, it is no longer the entry that was found.
+    m_controller->addData({std::make_shared<PaymentData>(2025, 3, 1, 0, u"Milk"_s, 200, 0)});
+    QCOMPARE(SearchResults::entryForResultID(*m_controller, id), record);
+    record->setAmount(1600);
+    QVERIFY(!SearchResults::entryForResultID(*m_controller, id));
+    for (const QString &bad : {u""_s, u"202503:0"_s, u"202513:0:0"_s, u"202500:0:0"_s, u"x:y:z"_s})
+        QVERIFY(!SearchResults::entryForResultID(*m_controller, bad));
+
+    // No more than a desktop shows, the newest of them.
+    PaymentArray many;
+    for (int day = 1; day <= 25; ++day)
+        many.append(std::make_shared<PaymentData>(2030, 1, day, 0, u"Lunch"_s, 500, 0));
+    m_controller->addData(many);
+    const QStringList lunches = SearchResults::resultIDs(*m_controller, u"Lunch"_s);
+    QCOMPARE(lunches.size(), LedgerSearch::MaxResults);
+    QCOMPARE(SearchResults::entryForResultID(*m_controller, lunches.constLast())->date(), 6);
 }
 
 QTEST_GUILESS_MAIN(TestScriptCommands)

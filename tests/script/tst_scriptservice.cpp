@@ -2,15 +2,19 @@
 #include "TestHelpers.h"
 
 #include "ScriptService.h"
+#include "SearchService.h"
 
 #include "app/KAppController.h"
+#include "list/ListWinController.h"
 #include "ledger/KController.h"
 #include "model/MonthDataList.h"
 #include "script/ScriptNames.h"
+#include "script/SearchResults.h"
 #include "security/PasswordLock.h"
 #include "settings/Settings.h"
 #include "storage/DurableFile.h"
 
+#include <QApplication>
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusInterface>
@@ -19,6 +23,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -56,6 +61,40 @@ Run gdbus(const QString &path, const QString &method, const QStringList &argumen
                                      + arguments);
 }
 
+Run searchCall(const QString &path, const QString &method, const QStringList &arguments)
+{
+    return runClient(u"gdbus"_s, QStringList{u"call"_s, u"--session"_s, u"--dest"_s,
+                                             ScriptNames::SearchService, u"--object-path"_s, path,
+                                             u"--method"_s, method}
+                                     + arguments);
+}
+
+QStringList resultIDsIn(const QString &reply)
+{
+    QStringList ids;
+    for (const auto &match : QRegularExpression(u"'(\\d+:\\d+:[0-9a-f]+)'"_s).globalMatch(reply))
+        ids.append(match.captured(1));
+    return ids;
+}
+
+// Entries of three months that the desktop's search tests look for.
+void bookSearchedEntries(KController &ledger)
+{
+    ledger.addData({std::make_shared<PaymentData>(2025, 3, 14, 0, u"Bakery"_s, 1550, 0),
+                    std::make_shared<PaymentData>(2024, 12, 31, 1, u"Train"_s, 2000, 1),
+                    std::make_shared<PaymentData>(2006, 5, 1, 0, u"Bakery"_s, 80, 0)});
+}
+
+ListWinController *listWindow()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (auto *list = qobject_cast<ListWinController *>(window); list && list->isVisible())
+            return list;
+    }
+    return nullptr;
+}
+
 Run penwickctl(const QStringList &arguments)
 {
     return runClient(QStringLiteral(PENWICKCTL_PATH), arguments);
@@ -87,6 +126,10 @@ private slots:
     void doorChecksThroughPenwickctl();
     void bookingOnAFullDiskIsNotBooked();
     void unreadableMonthIsAnError();
+    void desktopSearchAnswers_data();
+    void desktopSearchAnswers();
+    void desktopSearchShowsTheEntry_data();
+    void desktopSearchShowsTheEntry();
 
 private:
     QDBusInterface application();
@@ -97,6 +140,7 @@ private:
     QString m_address;
     std::unique_ptr<KAppController> m_app;
     std::unique_ptr<ScriptService> m_service;
+    std::unique_ptr<SearchService> m_search;
 };
 
 void TestScriptService::initTestCase()
@@ -116,6 +160,8 @@ void TestScriptService::init()
     m_app = std::make_unique<KAppController>();
     m_service = std::make_unique<ScriptService>(m_app.get(), QDBusConnection::sessionBus());
     QVERIFY2(m_service->start(), qPrintable(m_service->errorString()));
+    m_search = std::make_unique<SearchService>(m_app.get(), QDBusConnection::sessionBus());
+    QVERIFY2(m_search->start(), qPrintable(m_search->errorString()));
     if (QTest::currentTestFunction() == "lockedProgramAnswersOnlyAnError"_L1)
         QVERIFY(PasswordLock::savePasswordToDefault(u"secret"_s));
     m_app->confirmPassword();
@@ -123,6 +169,7 @@ void TestScriptService::init()
 
 void TestScriptService::cleanup()
 {
+    m_search.reset();
     m_service.reset();
     m_app.reset();
     PasswordLock::savePasswordToDefault({});
@@ -292,6 +339,27 @@ void TestScriptService::lockedProgramAnswersOnlyAnError()
     QVERIFY2(run.err.contains(u"locked"_s), qPrintable(run.err));
     QVERIFY(!QFileInfo::exists(m_app->ledger()->filePathForYear(QDate::currentDate().year(),
                                                                  QDate::currentDate().month())));
+
+    // The desktop's search finds nothing, and shows nothing, until the
+    // password is given, though the months hold what it asks for.
+    KController other;
+    other.readListPreference();
+    bookSearchedEntries(other);
+    const QString id = SearchResults::resultIDs(other, u"Bakery"_s).constFirst();
+    const QString provider = ScriptNames::SearchProviderPath;
+    const QString runner = ScriptNames::RunnerPath;
+    for (const Run &asked :
+         {searchCall(provider, u"org.gnome.Shell.SearchProvider2.GetInitialResultSet"_s, {u"['Bakery']"_s}),
+          searchCall(provider, u"org.gnome.Shell.SearchProvider2.GetSubsearchResultSet"_s,
+                     {u"['"_s + id + u"']"_s, u"['Bakery']"_s}),
+          searchCall(provider, u"org.gnome.Shell.SearchProvider2.GetResultMetas"_s, {u"['"_s + id + u"']"_s}),
+          searchCall(runner, u"org.kde.krunner1.Match"_s, {u"'Bakery'"_s})}) {
+        QVERIFY2(asked.exitCode == 0, qPrintable(asked.err));
+        QVERIFY2(!asked.out.contains(u"Bakery"_s) && resultIDsIn(asked.out).isEmpty(), qPrintable(asked.out));
+    }
+    searchCall(provider, u"org.gnome.Shell.SearchProvider2.ActivateResult"_s, {id, u"['Bakery']"_s, u"0"_s});
+    searchCall(runner, u"org.kde.krunner1.Run"_s, {id, u"''"_s});
+    QVERIFY(!listWindow());
 }
 
 void TestScriptService::doorChecksThroughDBus_data()
@@ -418,6 +486,78 @@ void TestScriptService::unreadableMonthIsAnError()
     QVERIFY(listed.exitCode != 0);
     QVERIFY2(listed.err.contains(u"cannot be read"_s), qPrintable(listed.err));
     QCOMPARE(readBytes(m_app->ledger()->filePathForYear(2006, 7)), QByteArray("not a month"));
+}
+
+void TestScriptService::desktopSearchAnswers_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("found");
+    const QString provider = ScriptNames::SearchProviderPath;
+    QTest::newRow("GNOME, first words")
+        << provider << u"org.gnome.Shell.SearchProvider2.GetInitialResultSet"_s
+        << QStringList{u"['Bakery']"_s} << QStringList{u"2025/3/14"_s, u"2006/5/1"_s};
+    // The earlier results were cut short, so every month is searched again.
+    QTest::newRow("GNOME, more words")
+        << provider << u"org.gnome.Shell.SearchProvider2.GetSubsearchResultSet"_s
+        << QStringList{u"['200605:0:0000']"_s, u"['Bakery', 'Train']"_s}
+        << QStringList{u"2025/3/14"_s, u"2024/12/31"_s, u"2006/5/1"_s};
+    QTest::newRow("KDE") << QString(ScriptNames::RunnerPath) << u"org.kde.krunner1.Match"_s
+                         << QStringList{u"'Train'"_s} << QStringList{u"2024/12/31"_s};
+}
+
+void TestScriptService::desktopSearchAnswers()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, method);
+    QFETCH(QStringList, arguments);
+    QFETCH(QStringList, found);
+    bookSearchedEntries(*m_app->ledger());
+    const Run asked = searchCall(path, method, arguments);
+    QVERIFY2(asked.exitCode == 0, qPrintable(asked.err));
+    const QStringList ids = resultIDsIn(asked.out);
+    QCOMPARE(ids.size(), found.size());
+    // GNOME asks for the texts apart; the runner has them in its matches.
+    QString shown = asked.out;
+    if (path == ScriptNames::SearchProviderPath)
+        shown = searchCall(path, u"org.gnome.Shell.SearchProvider2.GetResultMetas"_s,
+                           {u"['"_s + ids.join(u"', '"_s) + u"']"_s})
+                    .out;
+    qsizetype at = 0;
+    for (const QString &date : found) {
+        const qsizetype next = shown.indexOf(date + u' ', at);
+        QVERIFY2(next > at, qPrintable(shown));
+        at = next;
+    }
+    QVERIFY2(shown.contains(u"'org.penwick.Penwick'"_s), qPrintable(shown));
+}
+
+void TestScriptService::desktopSearchShowsTheEntry_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("GNOME") << QString(ScriptNames::SearchProviderPath)
+                           << u"org.gnome.Shell.SearchProvider2.ActivateResult"_s
+                           << QStringList{u"['Train']"_s, u"0"_s};
+    QTest::newRow("KDE") << QString(ScriptNames::RunnerPath) << u"org.kde.krunner1.Run"_s
+                         << QStringList{u"''"_s};
+}
+
+void TestScriptService::desktopSearchShowsTheEntry()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, method);
+    QFETCH(QStringList, arguments);
+    bookSearchedEntries(*m_app->ledger());
+    const QString id = SearchResults::resultIDs(*m_app->ledger(), u"Train"_s).constFirst();
+    const Run shown = searchCall(path, method, QStringList{id} + arguments);
+    QVERIFY2(shown.exitCode == 0, qPrintable(shown.err));
+    ListWinController *list = listWindow();
+    QVERIFY(list);
+    QCOMPARE(list->year() * 100 + list->month(), 202412);
+    QCOMPARE(list->dataForSelectedRow(), SearchResults::entryForResultID(*m_app->ledger(), id));
 }
 
 QTEST_MAIN(TestScriptService)

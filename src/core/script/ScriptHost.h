@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/PaymentData.h"
+
 class KController;
 
 // What a script may ask of the running program beyond its data: whether it
@@ -17,4 +19,7 @@ public:
     virtual bool running() const = 0;
     virtual KController *ledger() const = 0;
     virtual void showWindow(Window window) = 0;
+    // The list window at the entry's month, its search cleared, the entry
+    // selected.
+    virtual void showEntry(const PaymentDataPtr &record) = 0;
 };

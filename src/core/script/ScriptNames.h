@@ -13,6 +13,12 @@ inline constexpr QLatin1StringView DataListsPath{"/org/penwick/Penwick/DataLists
 inline constexpr QLatin1StringView ApplicationInterface{"org.penwick.Penwick.Application"};
 inline constexpr QLatin1StringView DataListInterface{"org.penwick.Penwick.DataList"};
 
+// The desktop's search reaches the program under a name of its own, which
+// the bus may start the program for, while scripts find only a running one.
+inline constexpr QLatin1StringView SearchService{"org.penwick.Penwick.Search"};
+inline constexpr QLatin1StringView SearchProviderPath{"/org/penwick/Penwick/SearchProvider"};
+inline constexpr QLatin1StringView RunnerPath{"/org/penwick/Penwick/Runner"};
+
 // Errors: the program waits for its password; no such month; the month
 // could not take a new entry; it could, but its file could not be written, so
 // it did not; the month's file cannot be read; an argument is not one the

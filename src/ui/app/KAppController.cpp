@@ -10,6 +10,7 @@
 #include "ledger/DataFolder.h"
 #include "ledger/KController.h"
 #include "ledger/RescueFolder.h"
+#include "model/ModifMonthList.h"
 #include "model/Notifications.h"
 #include "app/UndoHistory.h"
 #include "password/ConfirmPassPanelController.h"
@@ -205,6 +206,8 @@ void KAppController::startUp()
     }
     registerMyNotifications();
     m_ledger->readListPreference();
+    if (m_inBackground)
+        return;
     openStartWindows();
     // A new user sets up the lists first: the preferences stay in front.
     if (firstStart)
@@ -214,6 +217,15 @@ void KAppController::startUp()
     for (const QString &path : waiting)
         openFile(path);
     m_alerts->offerRescuedMonths();
+}
+
+void KAppController::startInBackground()
+{
+    if (!PasswordLock::passwordFromDefault().isEmpty() || Settings().version() == 0
+        || !RescueFolder::pending(m_ledger->dataFolderPath()).isEmpty())
+        return;
+    m_inBackground = true;
+    startUp();
 }
 
 void KAppController::registerMyNotifications()
@@ -387,6 +399,18 @@ void KAppController::showPaywayList(int payway, int year, int month)
         myListWinController->showDataOfPayway(payway);
 }
 
+void KAppController::showEntry(const PaymentDataPtr &record)
+{
+    const Settings settings;
+    const QDate day(record->year(), record->month(), record->date());
+    const QDate month = settings.changeMonthLastDate()
+        ? ModifMonthList::closingMonthOf(day, settings.monthLastDate())
+        : day;
+    showListOfYear(month.year(), month.month());
+    if (myListWinController)
+        myListWinController->selectData(record);
+}
+
 bool KAppController::openFile(const QString &path)
 {
     if (QFileInfo(path).suffix() != QLatin1StringView("Penwick"))
@@ -417,7 +441,15 @@ void KAppController::activate()
     if (front) {
         front->raise();
         front->activateWindow();
+        return;
     }
+    if (!m_running) {
+        confirmPassword();
+        return;
+    }
+    if (std::exchange(m_inBackground, false))
+        openStartWindows();
+    keepAWindowOpen();
 }
 
 bool KAppController::applicationShouldTerminate()

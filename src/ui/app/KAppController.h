@@ -43,12 +43,20 @@ public:
     KController *ledger() const override { return m_ledger.get(); }
     bool running() const override { return m_running; }
     void showWindow(Window window) override;
+    // With a closing day in force, the list window shows an entry past it
+    // under the next month.
+    void showEntry(const PaymentDataPtr &record) override;
 
     // Asks for the password when one is stored and starts up once it is
     // given; without one, starts at once. Cancelling quits.
     void confirmPassword();
     // Opens the account book: first-start set-up, the lists, the windows.
     void startUp();
+    // Started by the desktop to answer its search: opens the account book
+    // without a window when nothing needs the user. With a password, before
+    // the first start's set-up, or with rescued months to offer, it stays
+    // locked until the user comes to the program (activate()).
+    void startInBackground();
 
     // Whether the menu item may be chosen now (by its tag).
     bool validateMenuItem(const QAction *item) const;
@@ -59,7 +67,8 @@ public:
     // whether it was taken (its extension is "Penwick"). Before start-up it
     // waits for the password.
     bool openFile(const QString &path);
-    // A second launch asked for the application: bring it to the front.
+    // A second launch asked for the application: bring it to the front. In
+    // the background it opens its windows now, or asks for the password.
     void activate();
 
     // False when a window holds work that must be settled first; the window
@@ -117,6 +126,8 @@ private:
     LedgerAlerts *m_alerts;
     UndoHistory *m_history;
     bool m_running = false;
+    // Started in the background: the start's windows wait for the user.
+    bool m_inBackground = false;
     QPointer<ConfirmPassPanelController> m_passwordPanel;
     QPointer<InputWinController> myInputWinController;
     QPointer<ListWinController> myListWinController;

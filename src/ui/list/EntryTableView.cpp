@@ -151,6 +151,20 @@ PaymentDataPtr EntryTableView::currentRecord() const
     return m_model->dataAtIndex(current.row());
 }
 
+bool EntryTableView::selectRecord(const PaymentDataPtr &record)
+{
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        if (m_model->dataAtIndex(row) == record) {
+            selectionModel()->setCurrentIndex(m_model->index(row, 0),
+                                              QItemSelectionModel::ClearAndSelect
+                                                  | QItemSelectionModel::Rows);
+            scrollTo(m_model->index(row, 0));
+            return true;
+        }
+    }
+    return false;
+}
+
 void EntryTableView::sortByColumn(int column)
 {
     m_sorting = true;

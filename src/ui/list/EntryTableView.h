@@ -32,6 +32,9 @@ public:
     PaymentArray selectedRecords() const;
     // The entry of the current row when it is selected.
     PaymentDataPtr currentRecord() const;
+    // Makes the entry's row the one current and selected row, scrolled into
+    // view; false when no row shows it.
+    bool selectRecord(const PaymentDataPtr &record);
 
 private:
     void applyColumnMenu();

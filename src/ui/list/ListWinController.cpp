@@ -469,6 +469,11 @@ PaymentDataPtr ListWinController::dataForSelectedRow() const
     return m_listTable->currentRecord();
 }
 
+bool ListWinController::selectData(const PaymentDataPtr &record)
+{
+    return m_listTable->selectRecord(record);
+}
+
 PaymentDataPtr ListWinController::dataAtIndex(int row) const
 {
     return m_model->dataAtIndex(row);

@@ -55,6 +55,8 @@ public:
     void saveData();
 
     PaymentDataPtr dataForSelectedRow() const;
+    // Selects the entry's row; false when the month shown has no such row.
+    bool selectData(const PaymentDataPtr &record);
     PaymentDataPtr dataAtIndex(int row) const;
 
     bool isListEditable() const;
