@@ -98,7 +98,8 @@ std::optional<QDate> DateReading::read(QStringView text, DateOrder order)
         break;
     case DateOrder::DayMonthYear:
     case DateOrder::MonthDayYear:
-        if (d[0] > 2 || d[1] > 2 || d[2] == 1 || d[2] == 3)
+        // "1/2' 5" pads the year of the 2000s with a blank.
+        if (d[0] > 2 || d[1] > 2 || (d[2] == 1 && !parts->apostropheYear) || d[2] == 3)
             return std::nullopt;
         year = fullYear(n[2], d[2], parts->apostropheYear);
         day = order == DateOrder::DayMonthYear ? n[0] : n[1];

@@ -25,7 +25,7 @@ QString TextDecoding::detect(const QByteArray &bytes, const QString &fallback)
     if (sample > 0 && evenZeros * 4 > sample)
         return u"UTF-16BE"_s;
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    (void)utf8.decode(bytes);
+    const QString text = utf8.decode(bytes); // the decoding happens here, not in decode()
     return utf8.hasError() ? fallback : u"UTF-8"_s;
 }
 
