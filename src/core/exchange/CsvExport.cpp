@@ -97,3 +97,11 @@ std::optional<PaymentArray> CsvExport::records(KController &ledger, Scope scope,
     }
     return records;
 }
+
+std::optional<QByteArray> CsvExport::ledgerText(KController &ledger, Scope scope, QString *error)
+{
+    const auto found = records(ledger, scope, error);
+    if (!found)
+        return std::nullopt;
+    return text(*found, ledger.categoryList(), ledger.paywayList());
+}

@@ -36,4 +36,6 @@ public:
     // the reason, when a month of the scope cannot be read, rather than an
     // export with a hole in it.
     static std::optional<PaymentArray> records(KController &ledger, Scope scope, QString *error);
+    // Those records as text, with the ledger's names.
+    static std::optional<QByteArray> ledgerText(KController &ledger, Scope scope, QString *error);
 };

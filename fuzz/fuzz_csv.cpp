@@ -1,0 +1,21 @@
+// Any bytes as a CSV statement: read with the detected layout and with a
+// fixed one, the reader must list what it cannot read, never crash.
+#include "exchange/CsvImporter.h"
+
+#include <cstddef>
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
+    (void)CsvImporter().parse(bytes);
+    using Role = CsvMapping::Role;
+    CsvMapping fixed;
+    fixed.roles = {Role::Date, Role::Debit, Role::Credit, Role::Details, Role::Details};
+    fixed.delimiter = ';';
+    fixed.encoding = QStringLiteral("CP932");
+    fixed.dateOrder = DateOrder::DayMonthYear;
+    fixed.decimalMark = DecimalMark::Comma;
+    (void)CsvImporter(fixed).parse(bytes);
+    return 0;
+}
