@@ -201,6 +201,8 @@ void TestExchange::ledgerScopes_data()
     QTest::newRow("a year") << u"2024"_s << QStringList{u"b"_s, u"unsaved"_s, u"a"_s, u"c"_s};
     QTest::newRow("everything") << u"all"_s << QStringList{u"z"_s, u"b"_s, u"unsaved"_s, u"a"_s, u"c"_s};
     QTest::newRow("no such scope") << u"20241"_s << QStringList{u"refused"_s};
+    // An export with a hole in it would pass for the whole.
+    QTest::newRow("a month that cannot be read") << u"all broken"_s << QStringList{u"refused"_s};
 }
 
 void TestExchange::ledgerScopes()
@@ -211,6 +213,10 @@ void TestExchange::ledgerScopes()
     writeMonthFile(folder, 2023, 12, {entry(2023, 12, 30, u"z"_s)});
     writeMonthFile(folder, 2024, 1, {entry(2024, 1, 20, u"a"_s), entry(2024, 1, 5, u"b"_s)});
     writeMonthFile(folder, 2024, 3, {entry(2024, 3, 1, u"c"_s)});
+    if (scope.endsWith(u" broken"_s)) {
+        writeBytes(DataFolder::filePathForYear(folder, 2024, 2), "not a month");
+        scope.chop(7);
+    }
     KController ledger;
     // An edit not yet written is part of what the program holds.
     ledger.monthListForYear(2024, 1)->addData({entry(2024, 1, 5, u"unsaved"_s)});
@@ -222,6 +228,11 @@ void TestExchange::ledgerScopes()
     }
     QString error;
     const auto records = CsvExport::records(ledger, *named, &error);
+    if (details == QStringList{u"refused"_s}) {
+        QVERIFY(!records);
+        QVERIFY2(error.startsWith(u"2024/2 cannot be read"_s), qPrintable(error));
+        return;
+    }
     QVERIFY2(records, qPrintable(error));
     QCOMPARE(detailsOf(*records), details);
 }

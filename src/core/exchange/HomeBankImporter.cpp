@@ -84,7 +84,8 @@ ImportResult HomeBankImporter::parse(const QByteArray &bytes) const
         };
         bool dayOk = false;
         const qint64 day = value("date").toLongLong(&dayOk);
-        const QDate date = dayOk && day > 0 ? QDate::fromJulianDay(day + DayZero) : QDate();
+        // Beyond the year 9999 is no date of a household's.
+        const QDate date = dayOk && day > 0 && day < 3652060 ? QDate::fromJulianDay(day + DayZero) : QDate();
         if (!date.isValid()) {
             result.problems.append({operation.line, Importer::tr("The date is missing.")});
             continue;
