@@ -23,6 +23,8 @@ struct CandidateEntry
 
     bool operator==(const CandidateEntry &) const = default;
 };
+// Lists of a hundred thousand grow by moving memory, not by copying each.
+Q_DECLARE_TYPEINFO(CandidateEntry, Q_RELOCATABLE_TYPE);
 
 // A row that could not be read, and why, in words for the person importing.
 struct RowProblem

@@ -65,10 +65,18 @@ std::optional<Importer::Format> Importer::formatNamed(QStringView name)
 
 QString Importer::joinDetails(const QStringList &parts)
 {
-    QStringList kept;
-    for (const QString &part : parts) {
-        if (const QString text = part.trimmed(); !text.isEmpty() && !kept.contains(text))
-            kept.append(text);
+    // Called once per entry: one string built, no list of the kept parts.
+    QString joined;
+    for (qsizetype i = 0; i < parts.size(); ++i) {
+        const QStringView text = QStringView(parts.at(i)).trimmed();
+        bool seen = text.isEmpty();
+        for (qsizetype j = 0; j < i && !seen; ++j)
+            seen = QStringView(parts.at(j)).trimmed() == text;
+        if (seen)
+            continue;
+        if (!joined.isEmpty())
+            joined += u" / ";
+        joined += text;
     }
-    return kept.join(u" / "_s);
+    return joined;
 }
