@@ -18,6 +18,8 @@ packages=(
   libcrypt-dev
   libbenchmark-dev
   libplist-dev
+  libcsv-dev
+  libofx-dev
   poppler-utils
   desktop-file-utils
   appstream

@@ -870,6 +870,10 @@
             <source>at index %1</source>
             <translation>at index %1</translation>
         </message>
+        <message>
+            <source>'%1' is not a month (YYYYMM), a year (YYYY) or all</source>
+            <translation>'%1' is not a month (YYYYMM), a year (YYYY) or all</translation>
+        </message>
     </context>
     <context>
         <name>ScriptDataList</name>
@@ -1515,6 +1519,68 @@ Show Details… tells more of each.</translation>
         <message>
             <source>&amp;Redo</source>
             <translation>&amp;Redo</translation>
+        </message>
+    </context>
+    <context>
+        <name>CsvExport</name>
+        <message>
+            <source>%1/%2 cannot be read: %3</source>
+            <translation>%1/%2 cannot be read: %3</translation>
+        </message>
+    </context>
+    <context>
+        <name>Importer</name>
+        <message>
+            <source>The encoding %1 is not known.</source>
+            <translation>The encoding %1 is not known.</translation>
+        </message>
+        <message>
+            <source>The file holds no rows.</source>
+            <translation>The file holds no rows.</translation>
+        </message>
+        <message>
+            <source>No column of dates and amounts was found; choose the columns.</source>
+            <translation>No column of dates and amounts was found; choose the columns.</translation>
+        </message>
+        <message>
+            <source>The date is missing.</source>
+            <translation>The date is missing.</translation>
+        </message>
+        <message>
+            <source>'%1' is not a date.</source>
+            <translation>'%1' is not a date.</translation>
+        </message>
+        <message>
+            <source>'%1' is not an amount.</source>
+            <translation>'%1' is not an amount.</translation>
+        </message>
+        <message>
+            <source>The amount is missing.</source>
+            <translation>The amount is missing.</translation>
+        </message>
+        <message>
+            <source>This is not a HomeBank file.</source>
+            <translation>This is not a HomeBank file.</translation>
+        </message>
+        <message>
+            <source>The HomeBank file is damaged at line %1: %2</source>
+            <translation>The HomeBank file is damaged at line %1: %2</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read: %2</source>
+            <translation>%1 cannot be read: %2</translation>
+        </message>
+        <message>
+            <source>This is not an OFX file.</source>
+            <translation>This is not an OFX file.</translation>
+        </message>
+        <message>
+            <source>The file cannot be read: %1</source>
+            <translation>The file cannot be read: %1</translation>
+        </message>
+        <message>
+            <source>This is not a QIF file: it has no !Type line.</source>
+            <translation>This is not a QIF file: it has no !Type line.</translation>
         </message>
     </context>
 </TS>

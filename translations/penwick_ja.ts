@@ -868,6 +868,10 @@
             <source>at index %1</source>
             <translation>インデックス %1</translation>
         </message>
+        <message>
+            <source>'%1' is not a month (YYYYMM), a year (YYYY) or all</source>
+            <translation>「%1」は月 (YYYYMM)、年 (YYYY)、all のどれでもありません</translation>
+        </message>
     </context>
     <context>
         <name>ScriptDataList</name>
@@ -1513,6 +1517,68 @@ Show Details… tells more of each.</source>
         <message>
             <source>&amp;Redo</source>
             <translation>やり直す(&amp;R)</translation>
+        </message>
+    </context>
+    <context>
+        <name>CsvExport</name>
+        <message>
+            <source>%1/%2 cannot be read: %3</source>
+            <translation>%1年%2月を読み込めません: %3</translation>
+        </message>
+    </context>
+    <context>
+        <name>Importer</name>
+        <message>
+            <source>The encoding %1 is not known.</source>
+            <translation>文字コード %1 は使えません。</translation>
+        </message>
+        <message>
+            <source>The file holds no rows.</source>
+            <translation>ファイルに行がありません。</translation>
+        </message>
+        <message>
+            <source>No column of dates and amounts was found; choose the columns.</source>
+            <translation>日付と金額の列が見つかりません。列を選んでください。</translation>
+        </message>
+        <message>
+            <source>The date is missing.</source>
+            <translation>日付がありません。</translation>
+        </message>
+        <message>
+            <source>'%1' is not a date.</source>
+            <translation>「%1」は日付ではありません。</translation>
+        </message>
+        <message>
+            <source>'%1' is not an amount.</source>
+            <translation>「%1」は金額ではありません。</translation>
+        </message>
+        <message>
+            <source>The amount is missing.</source>
+            <translation>金額がありません。</translation>
+        </message>
+        <message>
+            <source>This is not a HomeBank file.</source>
+            <translation>HomeBank のファイルではありません。</translation>
+        </message>
+        <message>
+            <source>The HomeBank file is damaged at line %1: %2</source>
+            <translation>HomeBank のファイルが %1 行目で壊れています: %2</translation>
+        </message>
+        <message>
+            <source>%1 cannot be read: %2</source>
+            <translation>%1 を読み込めません: %2</translation>
+        </message>
+        <message>
+            <source>This is not an OFX file.</source>
+            <translation>OFX のファイルではありません。</translation>
+        </message>
+        <message>
+            <source>The file cannot be read: %1</source>
+            <translation>ファイルを読み込めません: %1</translation>
+        </message>
+        <message>
+            <source>This is not a QIF file: it has no !Type line.</source>
+            <translation>QIF のファイルではありません: !Type の行がありません。</translation>
         </message>
     </context>
 </TS>

@@ -16,7 +16,7 @@ _penwickctl()
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)); then
-        COMPREPLY=($(compgen -W "categories payways show book list search sort dump --help" -- "$cur"))
+        COMPREPLY=($(compgen -W "categories payways show book list search sort export dump --help" -- "$cur"))
         return
     fi
 
@@ -34,6 +34,14 @@ _penwickctl()
     book) options="--amount --category --details --payway --year --month --date --json" ;;
     search) options="--days --words --category --payway --min --max --json" ;;
     sort) options="--key --ascend --descend --json" ;;
+    export)
+        if [[ $prev == --out ]]; then
+            compopt -o filenames 2>/dev/null
+            COMPREPLY=($(compgen -f -- "$cur"))
+            return
+        fi
+        options="all --out"
+        ;;
     dump)
         if [[ $cur != -* ]]; then
             compopt -o filenames 2>/dev/null

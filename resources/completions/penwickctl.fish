@@ -1,7 +1,7 @@
 # Fish completion for penwickctl. Category and payway names are asked of the
 # running program.
 
-set -l commands categories payways show book list search sort dump
+set -l commands categories payways show book list search sort export dump
 
 complete -c penwickctl -f
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a categories -d "Print the category names"
@@ -11,6 +11,7 @@ complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a book -d
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a list -d "Print the entries of a month"
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a search -d "Search a month"
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a sort -d "Sort a month's entries"
+complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a export -d "Write entries as CSV"
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a dump -d "Print an archive or a month file"
 complete -c penwickctl -s h -l help -d "Show the usage"
 
@@ -32,3 +33,5 @@ complete -c penwickctl -n "__fish_seen_subcommand_from sort" -l ascend -d "Small
 complete -c penwickctl -n "__fish_seen_subcommand_from sort" -l descend -d "Largest first"
 complete -c penwickctl -n "__fish_seen_subcommand_from dump" -l entries -d "Print the entries of a month file"
 complete -c penwickctl -n "__fish_seen_subcommand_from dump" -F
+complete -c penwickctl -n "__fish_seen_subcommand_from export" -a all -d "The whole data folder"
+complete -c penwickctl -n "__fish_seen_subcommand_from export" -l out -r -F -d "Write to a file"

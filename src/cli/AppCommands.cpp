@@ -19,6 +19,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QSaveFile>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -211,6 +212,7 @@ QList<AppCommands::Command> AppCommands::commands()
         {u"list"_s, tr("Print the entries of a month."), &list},
         {u"search"_s, tr("Search a month and print what it finds."), &search},
         {u"sort"_s, tr("Sort a month's selected entries and print them."), &sort},
+        {u"export"_s, tr("Write the entries of a month, a year or all as CSV."), &exportCsv},
     };
 }
 
@@ -454,4 +456,43 @@ int AppCommands::sort(const QStringList &arguments)
         sortArguments.insert(u"descend"_s, true);
     return runOnMonth(command, parser.positionalArguments().constFirst(), u"SortWithASCommand"_s,
                       {sortArguments}, parser.isSet(jsonOption));
+}
+
+int AppCommands::exportCsv(const QStringList &arguments)
+{
+    const QString command = u"export"_s;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        tr("Writes entries as CSV (UTF-8, one header line, ISO dates, category and payway by name) "
+           "as the running program holds them, edits not yet saved included. Without a scope, "
+           "everything."));
+    parser.addPositionalArgument(u"SCOPE"_s, tr("A month (200605), a year (2006) or all."),
+                                 u"[YYYYMM|YYYY|all]"_s);
+    const QCommandLineOption out(u"out"_s, tr("Write to FILE instead of standard output."), u"FILE"_s);
+    parser.addOption(out);
+    if (const auto status = CommandLine::parse(parser, command, arguments))
+        return *status;
+    const QStringList scopes = parser.positionalArguments();
+    if (scopes.size() > 1)
+        return CommandLine::usageError(command, tr("give one month, one year or all"));
+    const QString scope = scopes.value(0, u"all"_s);
+    static const QRegularExpression pattern(u"^(all|\\d{4}|\\d{6})$"_s);
+    if (!pattern.match(scope).hasMatch())
+        return CommandLine::usageError(command, tr("'%1' is not a month (YYYYMM), a year (YYYY) or all")
+                                                    .arg(scope));
+    const auto reply = callApplication(command, u"ExportCsv"_s, {scope});
+    if (!reply || reply->isEmpty())
+        return CommandLine::Failure;
+    const QByteArray text = reply->constFirst().toString().toUtf8();
+    if (!parser.isSet(out)) {
+        CommandLine::printOut(text);
+        return CommandLine::Success;
+    }
+    // Whole or not at all: a failed export leaves an older file as it was.
+    QSaveFile file(parser.value(out));
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit()) {
+        CommandLine::printError(u"%1: %2: %3"_s.arg(command, parser.value(out), file.errorString()));
+        return CommandLine::Failure;
+    }
+    return CommandLine::Success;
 }

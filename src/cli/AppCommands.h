@@ -40,4 +40,5 @@ private:
     static int list(const QStringList &arguments);
     static int search(const QStringList &arguments);
     static int sort(const QStringList &arguments);
+    static int exportCsv(const QStringList &arguments);
 };

@@ -2,6 +2,7 @@
 
 #include "ScriptService.h"
 
+#include "exchange/CsvExport.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
 #include "script/ScriptCommands.h"
@@ -116,4 +117,22 @@ QDBusObjectPath ScriptApplication::DataListAtIndex(int index)
     KController *open = ledger();
     return open ? pathFor(ScriptCommands::valueAtIndex(*open, index), tr("at index %1").arg(index))
                 : QDBusObjectPath();
+}
+
+QString ScriptApplication::ExportCsv(const QString &scope)
+{
+    KController *open = ledger();
+    if (!open)
+        return {};
+    const auto named = CsvExport::scopeNamed(scope);
+    if (!named) {
+        sendErrorReply(ScriptNames::InvalidArgsError,
+                       tr("'%1' is not a month (YYYYMM), a year (YYYY) or all").arg(scope));
+        return {};
+    }
+    QString error;
+    const auto text = CsvExport::ledgerText(*open, *named, &error);
+    if (!text)
+        sendErrorReply(ScriptNames::UnreadableError, error);
+    return text ? QString::fromUtf8(*text) : QString();
 }

@@ -36,6 +36,7 @@ public slots:
     QDBusObjectPath DataListWithID(int id);
     QDBusObjectPath DataListWithName(const QString &name);
     QDBusObjectPath DataListAtIndex(int index);
+    QString ExportCsv(const QString &scope);
 
 private:
     // The ledger; nothing, after replying with the error, while the password

@@ -27,6 +27,7 @@ bash_completes "Amount" penwickctl sort 200605 --key Am
 bash_completes "graph" penwickctl show gr
 bash_completes "--ascend" penwickctl sort 200605 --as
 bash_completes "--entries" penwickctl dump --en
+bash_completes "--out" penwickctl export 2006 --o
 
 # Fish: complete -C answers what Tab offers, with descriptions.
 fish_got=$(fish --no-config -c "

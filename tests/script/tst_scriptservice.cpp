@@ -309,6 +309,18 @@ void TestScriptService::penwickctlBooksListsAndSearches()
     QCOMPARE(sorted.exitCode, 0);
     QCOMPARE(sorted.out.count(u'\n'), 2);
     QVERIFY(sorted.out.indexOf(u"Dinner out"_s) < sorted.out.indexOf(u"Apples"_s));
+
+    // Export reads what the program holds, by day.
+    const QString csv = u"Date,Category,Details,Amount,Payway\r\n2006-05-03,%1,Apples,80,%3\r\n"
+                        "2006-05-20,%2,Dinner out,1250,%3\r\n"_s.arg(categories.at(0), categories.at(1),
+                                                                     m_app->ledger()->paywayList().at(0));
+    const Run exported = penwickctl({u"export"_s, u"2006"_s});
+    QVERIFY2(exported.exitCode == 0, qPrintable(exported.err));
+    QCOMPARE(exported.out, csv);
+    const QString file = m_home.filePath(u"out.csv"_s);
+    QCOMPARE(penwickctl({u"export"_s, u"all"_s, u"--out"_s, file}).exitCode, 0);
+    QCOMPARE(QString::fromUtf8(readBytes(file)), csv);
+    QCOMPARE(penwickctl({u"export"_s, u"200604"_s}).out, csv.section(u'\n', 0, 0) + u'\n');
 }
 
 void TestScriptService::penwickctlErrorsAreOneLine()
@@ -322,6 +334,8 @@ void TestScriptService::penwickctlErrorsAreOneLine()
                 u"unknown category 'Nonsense'"_s);
     expectError(penwickctl({u"list"_s, u"200613"_s}), u"'200613' is not a month"_s);
     expectError(penwickctl({u"show"_s, u"everything"_s}), u"name one window"_s);
+    expectError(penwickctl({u"export"_s, u"20061"_s}), u"'20061' is not a month (YYYYMM)"_s);
+    expectError(penwickctl({u"export"_s, u"200613"_s}), u"'200613' is not a month (YYYYMM)"_s);
 
     m_service.reset();
     const Run notRunning = penwickctl({u"categories"_s});

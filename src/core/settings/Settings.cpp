@@ -2,6 +2,7 @@
 
 #include "settings/SettingsKeys.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QSettings>
 #include <QVariantList>
@@ -231,4 +232,24 @@ void Settings::setSplitViewVerticalPosition(QStringView name, const QString &lay
 void Settings::setSplitViewHorizontalPosition(QStringView name, const QString &layout)
 {
     m_settings->setValue(SettingsKeys::splitViewHorizontalPosition(name), layout);
+}
+
+namespace {
+// Header lines may hold anything, a slash too, so they are keyed by hash.
+QString csvMappingKey(const QStringList &header)
+{
+    const QByteArray line = header.join(QChar(0x1F)).toUtf8();
+    return SettingsKeys::CsvImportMappings + QLatin1Char('/')
+        + QString::fromLatin1(QCryptographicHash::hash(line, QCryptographicHash::Sha1).toHex());
+}
+} // namespace
+
+QVariantMap Settings::csvImportMapping(const QStringList &header) const
+{
+    return m_settings->value(csvMappingKey(header)).toMap();
+}
+
+void Settings::setCsvImportMapping(const QStringList &header, const QVariantMap &mapping)
+{
+    m_settings->setValue(csvMappingKey(header), mapping);
 }

@@ -4,6 +4,7 @@
 #include <QLatin1StringView>
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <QVariantList>
 #include <QVariantMap>
 
@@ -89,6 +90,11 @@ public:
     // How many months the bar chart shows; 0 when none was stored.
     int barChartNumberOfChart() const;
     void setBarChartNumberOfChart(int count);
+
+    // How the columns of a CSV file with this header line were read last
+    // time; empty when never.
+    QVariantMap csvImportMapping(const QStringList &header) const;
+    void setCsvImportMapping(const QStringList &header, const QVariantMap &mapping);
 
 private:
     std::unique_ptr<QSettings> m_settings;

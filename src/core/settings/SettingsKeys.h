@@ -63,4 +63,7 @@ inline QString splitViewIsVertical(QStringView name)
     return name.toString() + QLatin1StringView("_IsVertical");
 }
 
+// The CSV import mappings, one key per header line (its hash) in this group.
+inline constexpr QLatin1StringView CsvImportMappings{"CsvImportMappings"};
+
 } // namespace SettingsKeys

@@ -1,0 +1,82 @@
+#include "Importer.h"
+
+#include "CsvImporter.h"
+#include "HomeBankImporter.h"
+#include "OfxImporter.h"
+#include "QifImporter.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+ImportResult Importer::read(const QString &path) const
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        ImportResult result;
+        result.error = tr("%1 cannot be read: %2").arg(QFileInfo(path).fileName(), file.errorString());
+        return result;
+    }
+    return parse(file.readAll());
+}
+
+std::unique_ptr<Importer> Importer::forFormat(Format format)
+{
+    switch (format) {
+    case Format::Qif:
+        return std::make_unique<QifImporter>();
+    case Format::Ofx:
+        return std::make_unique<OfxImporter>();
+    case Format::HomeBank:
+        return std::make_unique<HomeBankImporter>();
+    case Format::Csv:
+        break;
+    }
+    return std::make_unique<CsvImporter>();
+}
+
+Importer::Format Importer::detect(const QString &fileName, const QByteArray &head)
+{
+    const QString suffix = QFileInfo(fileName).suffix().toLower();
+    if (const auto named = formatNamed(suffix == u"qfx"_s ? u"ofx"_s : suffix))
+        return *named;
+    const QByteArray start = head.left(4096).trimmed();
+    if (start.startsWith("!Type:") || start.startsWith("!Account") || start.startsWith("!Option"))
+        return Format::Qif;
+    if (start.contains("<homebank"))
+        return Format::HomeBank;
+    if (start.contains("OFXHEADER") || start.contains("<OFX>"))
+        return Format::Ofx;
+    return Format::Csv;
+}
+
+std::optional<Importer::Format> Importer::formatNamed(QStringView name)
+{
+    static const QHash<QString, Format> formats{{u"csv"_s, Format::Csv},
+                                                {u"qif"_s, Format::Qif},
+                                                {u"ofx"_s, Format::Ofx},
+                                                {u"xhb"_s, Format::HomeBank}};
+    const auto found = formats.constFind(name.toString().toLower());
+    if (found == formats.cend())
+        return std::nullopt;
+    return *found;
+}
+
+QString Importer::joinDetails(const QStringList &parts)
+{
+    // Called once per entry: one string built, no list of the kept parts.
+    QString joined;
+    for (qsizetype i = 0; i < parts.size(); ++i) {
+        const QStringView text = QStringView(parts.at(i)).trimmed();
+        bool seen = text.isEmpty();
+        for (qsizetype j = 0; j < i && !seen; ++j)
+            seen = QStringView(parts.at(j)).trimmed() == text;
+        if (seen)
+            continue;
+        if (!joined.isEmpty())
+            joined += u" / ";
+        joined += text;
+    }
+    return joined;
+}
