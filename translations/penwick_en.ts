@@ -1130,6 +1130,10 @@
             <source>The entries of %1/%2 cannot be read: %3</source>
             <translation>The entries of %1/%2 cannot be read: %3</translation>
         </message>
+        <message>
+            <source>Booking by a Script</source>
+            <translation>Booking by a Script</translation>
+        </message>
     </context>
     <context>
         <name>ListSearchPanel</name>

@@ -1128,6 +1128,10 @@
             <source>The entries of %1/%2 cannot be read: %3</source>
             <translation>%2 年 %1 月の項目を読み込めません: %3</translation>
         </message>
+        <message>
+            <source>Booking by a Script</source>
+            <translation>スクリプトによる記帳</translation>
+        </message>
     </context>
     <context>
         <name>ListSearchPanel</name>

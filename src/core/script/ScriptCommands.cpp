@@ -77,6 +77,8 @@ PaymentDataPtr makeNewPaymentData(KController &controller, const QVariantMap &fi
                                                 "month cannot be read.")});
         return nullptr;
     }
+    const KController::ChangeScope change(
+        &controller, QCoreApplication::translate("ScriptCommands", "Booking by a Script"));
     if (QString reason; !controller.addData({record}, &reason)) {
         refuse(refusal, {ScriptNames::NotSavedError,
                     QCoreApplication::translate("ScriptCommands",
