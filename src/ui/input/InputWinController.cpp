@@ -17,6 +17,7 @@
 #include "widgets/KeyButton.h"
 #include "widgets/LastPopUpButton.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -30,6 +31,21 @@
 
 #include <algorithm>
 #include <cstdlib>
+
+namespace {
+
+// Whether no other window of the program is on the screen.
+bool isOnlyWindow(const QWidget *window)
+{
+    const QWidgetList tops = QApplication::topLevelWidgets();
+    return std::none_of(tops.cbegin(), tops.cend(), [window](const QWidget *top) {
+        const Qt::WindowType type = top->windowType();
+        return top != window && top->isVisible() && type != Qt::Popup && type != Qt::ToolTip
+               && type != Qt::Desktop;
+    });
+}
+
+} // namespace
 
 namespace {
 
@@ -322,6 +338,12 @@ void InputWinController::bookInputData()
     m_afterInputWork = 0;
     if (!refusedMonths.isEmpty()) {
         InputSheets::tellNotBooked(this, reasons);
+        return;
+    }
+    // Closing the only window would end the program: it stays, emptied, for
+    // the next entries (Ctrl+Q quits).
+    if (afterInputWork == 0 && isOnlyWindow(this)) {
+        m_dateBar->dayField()->setFocus(Qt::OtherFocusReason);
         return;
     }
     close();
