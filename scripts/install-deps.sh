@@ -31,6 +31,7 @@ packages=(
   xauth
   x11-utils
   libqt6svg6
+  fonts-droid-fallback
   dbus-daemon
   libglib2.0-bin
 )

@@ -18,6 +18,7 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QFontInfo>
 #include <QTest>
 
 #include <memory>
@@ -45,6 +46,7 @@ private slots:
     void init();
     void cleanup();
 
+    void firstSizeFitsALaptopInAJapaneseFont();
     void statementsAreEvaluatedAndSpendingSummed();
     void tabPastTheLastRowAddsOne();
     void keyboardAloneBooksRowsOfTwoMonths();
@@ -136,6 +138,20 @@ void TestInputWindow::typeInto(QWidget *field, const QString &text)
         line->selectAll();
     QTest::keyClicks(field, text);
     QTest::keyClick(field, Qt::Key_Tab);
+}
+
+// A CJK font's average character is a full-width one: measured by it, the
+// first window ran off a laptop's screen.
+void TestInputWindow::firstSizeFitsALaptopInAJapaneseFont()
+{
+    QFont japanese(u"Droid Sans Fallback"_s);
+    if (QFontInfo(japanese).family() != japanese.family())
+        QSKIP("the Japanese font the installer adds is not here");
+    const QFont before = QApplication::font();
+    const auto restore = qScopeGuard([&before] { QApplication::setFont(before); });
+    QApplication::setFont(japanese);
+    InputWinController window(m_controller.get());
+    QVERIFY2(window.width() <= 1366, qPrintable(u"%1 px"_s.arg(window.width())));
 }
 
 void TestInputWindow::statementsAreEvaluatedAndSpendingSummed()

@@ -135,8 +135,11 @@ InputWinController::InputWinController(KController *controller, QWidget *parent)
     // of it.
     if (!restoreGeometry(Settings().savedLayout(SettingsKeys::InputWindow))) {
         const int rowHeight = m_rowList->rowHeight();
-        resize(std::max(sizeHint().width(), fontMetrics().averageCharWidth() * 130),
-               sizeHint().height() + 5 * rowHeight);
+        // Measured on Latin letters: a CJK font's average character is a
+        // full-width one, twice as wide, and 130 of them overflow the screen.
+        const QString letters = QStringLiteral("abcdefghijklmnopqrstuvwxyz");
+        const int letterWidth = fontMetrics().horizontalAdvance(letters) / int(letters.size());
+        resize(std::max(sizeHint().width(), letterWidth * 130), sizeHint().height() + 5 * rowHeight);
     }
     m_dateBar->dayField()->setFocus();
 }
