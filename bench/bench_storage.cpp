@@ -70,16 +70,26 @@ void BM_ParseOneMonth(benchmark::State &state)
 }
 BENCHMARK(BM_ParseOneMonth)->Unit(benchmark::kMicrosecond);
 
+// A data folder of its own with one month of entries, booked.
+struct OneMonthFolder
+{
+    OneMonthFolder()
+    {
+        Settings().setDataPath(dir.path());
+        list = controller.monthListForYear(2006, 5);
+        list->addData(LedgerGenerator().monthRecords(2006, 5, kPerMonth));
+    }
+
+    QTemporaryDir dir;
+    KController controller;
+    std::shared_ptr<MonthDataList> list;
+};
+
 void BM_WriteOneMonth(benchmark::State &state)
 {
-    QTemporaryDir dir;
-    Settings().setDataPath(dir.path());
-    KController controller;
-    const auto list = controller.monthListForYear(2006, 5);
-    list->setDataListArray(LedgerGenerator().monthRecords(2006, 5, kPerMonth));
-    list->dataHasChanged();
+    OneMonthFolder folder;
     for (auto _ : state)
-        benchmark::DoNotOptimize(controller.writeDataListToFile(list.get()));
+        benchmark::DoNotOptimize(folder.controller.writeDataListToFile(folder.list.get()));
 }
 BENCHMARK(BM_WriteOneMonth)->Unit(benchmark::kMicrosecond);
 
@@ -88,12 +98,8 @@ BENCHMARK(BM_WriteOneMonth)->Unit(benchmark::kMicrosecond);
 // the slowest one is what the event loop would feel.
 void BM_CommitCellEdit(benchmark::State &state)
 {
-    QTemporaryDir dir;
-    Settings().setDataPath(dir.path());
-    KController controller;
-    const auto list = controller.monthListForYear(2006, 5);
-    list->addData(LedgerGenerator().monthRecords(2006, 5, kPerMonth));
-    const PaymentDataPtr record = list->dataListArray().constFirst();
+    OneMonthFolder folder;
+    const PaymentDataPtr record = folder.list->dataListArray().constFirst();
     double slowest = 0;
     float amount = 1;
     for (auto _ : state) {
@@ -109,18 +115,14 @@ BENCHMARK(BM_CommitCellEdit)->Unit(benchmark::kMicrosecond)->Iterations(1000)->R
 // Taking a cell edit back and making it again, each durable at once.
 void BM_UndoCellEdit(benchmark::State &state)
 {
-    QTemporaryDir dir;
-    Settings().setDataPath(dir.path());
-    KController controller;
-    const auto list = controller.monthListForYear(2006, 5);
-    list->addData(LedgerGenerator().monthRecords(2006, 5, kPerMonth));
+    OneMonthFolder folder;
     KController::Change change;
-    QObject::connect(&controller, &KController::changeRecorded,
+    QObject::connect(&folder.controller, &KController::changeRecorded,
                      [&change](const KController::Change &made) { change = made; });
-    list->dataListArray().constFirst()->setAmount(12345);
+    folder.list->dataListArray().constFirst()->setAmount(12345);
     bool before = true;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(controller.restoreChange(change, before));
+        benchmark::DoNotOptimize(folder.controller.restoreChange(change, before));
         before = !before;
     }
 }

@@ -49,27 +49,9 @@ done
 summary "start-up to first window" "${times[@]}"
 
 # A bus of our own that starts the program for the search.
-mkdir -p "$scratch/services"
-printf '[D-BUS Service]\nName=org.penwick.Penwick.Search\nExec=%s --background\n' \
-  "$(realpath "$build/src/app/penwick")" >"$scratch/services/org.penwick.Penwick.Search.service"
-cat >"$scratch/bus.conf" <<CONF
-<busconfig>
-  <type>session</type>
-  <listen>unix:tmpdir=$scratch</listen>
-  <servicedir>$scratch/services</servicedir>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>
-CONF
-dbus-daemon --config-file="$scratch/bus.conf" --nofork --print-address=3 3>"$scratch/bus.address" \
-  2>/dev/null &
-bus=$!
-trap 'kill "$bus"; rm -rf "$scratch"' EXIT
-until [[ -s $scratch/bus.address ]]; do sleep 0.01; done
-export DBUS_SESSION_BUS_ADDRESS=$(head -n1 "$scratch/bus.address")
+source "$(dirname "$0")/../scripts/activating-bus.sh"
+start_activating_bus "$scratch" "$(realpath "$build/src/app/penwick")"
+trap 'kill "$bus_pid"; rm -rf "$scratch"' EXIT
 
 times=()
 for ((i = 0; i < runs; i++)); do

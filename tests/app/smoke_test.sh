@@ -10,7 +10,6 @@ set -euo pipefail
 
 app=$1
 ctl=$2
-search_service=$3
 scratch=$(mktemp -d)
 pids=()
 cleanup() {
@@ -115,26 +114,9 @@ stop "$last_pid"
 
 # The desktop's search on a bus of its own that starts the program as the
 # installed service file says, with this build's program.
-mkdir -p "$scratch/services"
-sed "s|@CMAKE_INSTALL_FULL_BINDIR@/penwick|$app|" "$search_service" \
-  >"$scratch/services/org.penwick.Penwick.Search.service"
-cat >"$scratch/bus.conf" <<CONF
-<busconfig>
-  <type>session</type>
-  <listen>unix:tmpdir=$scratch</listen>
-  <servicedir>$scratch/services</servicedir>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>
-CONF
-dbus-daemon --config-file="$scratch/bus.conf" --nofork --print-address=3 \
-  3>"$scratch/bus.address" 2>>"$scratch/stderr.log" &
-pids+=($!)
-until [[ -s $scratch/bus.address ]]; do sleep 0.05; done
-export DBUS_SESSION_BUS_ADDRESS=$(head -n1 "$scratch/bus.address")
+source "$(dirname "$0")/../../scripts/activating-bus.sh"
+start_activating_bus "$scratch" "$app" "$scratch/stderr.log"
+pids+=("$bus_pid")
 
 provider=(gdbus call --session --dest org.penwick.Penwick.Search
           --object-path /org/penwick/Penwick/SearchProvider)

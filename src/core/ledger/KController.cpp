@@ -237,13 +237,11 @@ bool KController::writeMonth(MonthDataList *list, QString *reason)
     // The journal's last record of a month must never be older than its file,
     // or a replay would turn the file back: a change that reached the month
     // without a record of its own (a memo handed over on saving) is recorded
-    // first.
+    // first. A month not edited is as its last record or its file has it.
     const int key = cacheKey(*list);
-    if (content != (m_current.contains(key) ? m_current.value(key) : contentAsLoaded(*list)))
+    if (list->isEdited()
+        && content != (m_current.contains(key) ? m_current.value(key) : contentAsLoaded(*list)))
         recordMonths({list});
-    else if (const auto journaled = m_journaled.constFind(key);
-             journaled != m_journaled.cend() && journaled.value() != content)
-        journal({{list->year(), list->month(), {}, content}});
     if (!DurableFile::write(filePathForYear(list->year(), list->month()), content, reason))
         return false;
     list->setIsEdited(false);
@@ -348,7 +346,7 @@ bool KController::saveAllEditedData()
         QString reason;
         if (m_journal->remove(&reason)) {
             m_journal.reset();
-            m_journaled.clear();
+            m_journaledMonths.clear();
         } else {
             qWarning("%s", qPrintable(reason));
         }
@@ -418,23 +416,21 @@ bool KController::journal(const QList<MonthChange> &months)
     records.reserve(months.size());
     for (const MonthChange &month : months)
         records.append({month.year, month.month, month.after});
-    QString reason;
-    if (!m_journal) {
-        // A journal not brought back (it could not be read) is neither added
-        // to nor removed: the months are written as they are instead.
-        if (QFileInfo(changeJournalPath()).size() > 0) {
-            QMetaObject::invokeMethod(this, &KController::saveAllEditedData, Qt::QueuedConnection);
-            return false;
+    // A journal not brought back (it could not be read) is neither added to
+    // nor removed.
+    const bool strayJournal = !m_journal && QFileInfo(changeJournalPath()).size() > 0;
+    if (!strayJournal) {
+        if (!m_journal)
+            m_journal = std::make_unique<ChangeJournal>(changeJournalPath());
+        QString reason;
+        if (m_journal->append(records, &reason)) {
+            for (const ChangeJournal::Month &record : std::as_const(records))
+                m_journaledMonths.insert(cacheKey(record.year, record.month));
+            return true;
         }
-        m_journal = std::make_unique<ChangeJournal>(changeJournalPath());
+        qWarning("%s", qPrintable(reason));
+        dropJournal();
     }
-    if (m_journal->append(records, &reason)) {
-        for (ChangeJournal::Month &record : records)
-            m_journaled.insert(cacheKey(record.year, record.month), std::move(record.content));
-        return true;
-    }
-    qWarning("%s", qPrintable(reason));
-    dropJournal();
     // Not yet on the disk: write the months themselves, which says what it
     // cannot; not from within the change being reported, though.
     QMetaObject::invokeMethod(this, &KController::saveAllEditedData, Qt::QueuedConnection);
@@ -496,7 +492,7 @@ void KController::dropJournal()
     if (!m_journal->remove(&reason))
         qWarning("%s", qPrintable(reason));
     m_journal.reset();
-    m_journaled.clear();
+    m_journaledMonths.clear();
 }
 
 void KController::keepChange(MonthDataList *list)
@@ -514,8 +510,10 @@ bool KController::unsavedMonthsAreJournaled() const
 {
     const QList<MonthDataList *> months = cachedMonths();
     return std::all_of(months.cbegin(), months.cend(), [this](const MonthDataList *month) {
+        const int key = cacheKey(*month);
         return !month->isEdited() || month->isReadOnly()
-               || m_journaled.value(cacheKey(*month)) == MonthFile::encode(*month);
+               || (m_journaledMonths.contains(key)
+                   && m_current.value(key) == MonthFile::encode(*month));
     });
 }
 
@@ -560,8 +558,8 @@ bool KController::replayChangeJournal(QString *error)
     } else if (!contents.months.isEmpty() || contents.torn) {
         // Adopted: the months' newer records go after these.
         m_journal = std::make_unique<ChangeJournal>(path);
-        for (ChangeJournal::Month &record : contents.months)
-            m_journaled.insert(cacheKey(record.year, record.month), std::move(record.content));
+        for (const ChangeJournal::Month &record : std::as_const(contents.months))
+            m_journaledMonths.insert(cacheKey(record.year, record.month));
     }
     if (contents.torn)
         problems.append(tr("The last change before Penwick stopped was being written at that "
@@ -606,7 +604,7 @@ bool KController::releaseAllDataWithSave(bool save)
     // Whatever the journal still holds is replayed when the folder is used
     // again.
     m_journal.reset();
-    m_journaled.clear();
+    m_journaledMonths.clear();
     m_journalPending.clear();
     m_current.clear();
     expireChanges();

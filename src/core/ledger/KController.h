@@ -253,8 +253,9 @@ private:
     QString m_listFileProblem;
 
     std::unique_ptr<ChangeJournal> m_journal;
-    // year * 100 + month to the month's content in its journal's last record.
-    QHash<int, QByteArray> m_journaled;
+    // year * 100 + month of the months the journal holds; the last record of
+    // each holds its content in m_current.
+    QSet<int> m_journaledMonths;
     // Months changed since their last record; a move of entries between two
     // months is one record, written when the outermost batch ends.
     QSet<int> m_journalPending;

@@ -75,7 +75,6 @@ UndoHistory::UndoHistory(KController *ledger, QObject *parent)
     connect(m_undo, &QAction::triggered, m_stack, &QUndoStack::undo);
     connect(m_redo, &QAction::triggered, m_stack, &QUndoStack::redo);
     connect(m_stack, &QUndoStack::indexChanged, this, &UndoHistory::updateActions);
-    connect(m_stack, &QUndoStack::cleanChanged, this, &UndoHistory::updateActions);
     connect(ledger, &KController::changeRecorded, this, &UndoHistory::record);
     connect(ledger, &KController::changesExpired, m_stack, &QUndoStack::clear);
     updateActions();
