@@ -150,6 +150,9 @@ QMenuBar *KAppController::installMenuBar(QWidget *window)
     windows->addAction(m_preferencesAction);
     QMenu *help = bar->addMenu(tr("&Help"));
     help->addAction(m_aboutAction);
+    // A narrow window (the balance) would fold its menus away behind a
+    // chevron: it is at least as wide as its menus.
+    window->setMinimumWidth(std::max(window->minimumWidth(), bar->sizeHint().width()));
     return bar;
 }
 
