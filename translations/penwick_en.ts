@@ -402,6 +402,22 @@
             <source>The journal of changes %1 could not be removed, so none of the stored entries has been renumbered and the lists are unchanged.</source>
             <translation>The journal of changes %1 could not be removed, so none of the stored entries has been renumbered and the lists are unchanged.</translation>
         </message>
+        <message>
+            <source>The file of %1/%2 could not be read, so the change cannot be taken back.</source>
+            <translation>The file of %1/%2 could not be read, so the change cannot be taken back.</translation>
+        </message>
+        <message>
+            <source>Change of Categories and Payways</source>
+            <translation>Change of Categories and Payways</translation>
+        </message>
+        <message>
+            <source>The entries of %1/%2 were changed since, so the change of the lists cannot be taken back.</source>
+            <translation>The entries of %1/%2 were changed since, so the change of the lists cannot be taken back.</translation>
+        </message>
+        <message>
+            <source>Taking back a change of the category and payway lists was cut short. The lists and the entries are as they were before it.</source>
+            <translation>Taking back a change of the category and payway lists was cut short. The lists and the entries are as they were before it.</translation>
+        </message>
     </context>
     <context>
         <name>ListEditorModel</name>
@@ -858,6 +874,10 @@
         <message>
             <source>Give every category its colour from the palette again</source>
             <translation>Give every category its colour from the palette again</translation>
+        </message>
+        <message>
+            <source>The categories or payways were changed elsewhere while this window was open (by Undo or Redo). The window now shows them as they are; make your changes again.</source>
+            <translation>The categories or payways were changed elsewhere while this window was open (by Undo or Redo). The window now shows them as they are; make your changes again.</translation>
         </message>
     </context>
     <context>
@@ -1523,6 +1543,14 @@ Show Details… tells more of each.</translation>
         <message>
             <source>&amp;Redo</source>
             <translation>&amp;Redo</translation>
+        </message>
+        <message>
+            <source>“%1” could not be undone.</source>
+            <translation>“%1” could not be undone.</translation>
+        </message>
+        <message>
+            <source>“%1” could not be redone.</source>
+            <translation>“%1” could not be redone.</translation>
         </message>
     </context>
     <context>

@@ -401,6 +401,22 @@
             <source>The journal of changes %1 could not be removed, so none of the stored entries has been renumbered and the lists are unchanged.</source>
             <translation>変更記録 %1 を削除できなかったため、保存済みの記帳は番号を付け直しておらず、リストも変わっていません。</translation>
         </message>
+        <message>
+            <source>The file of %1/%2 could not be read, so the change cannot be taken back.</source>
+            <translation>%2 年 %1 月のファイルを読み込めないため、この変更は取り消せません。</translation>
+        </message>
+        <message>
+            <source>Change of Categories and Payways</source>
+            <translation>分類と支払い方法の変更</translation>
+        </message>
+        <message>
+            <source>The entries of %1/%2 were changed since, so the change of the lists cannot be taken back.</source>
+            <translation>%2 年 %1 月の記帳がその後に変更されたため、分類と支払い方法の変更は取り消せません。</translation>
+        </message>
+        <message>
+            <source>Taking back a change of the category and payway lists was cut short. The lists and the entries are as they were before it.</source>
+            <translation>分類と支払い方法の変更の取り消しが途中で止まりました。分類、支払い方法、記帳はすべて取り消す前のままです。</translation>
+        </message>
     </context>
     <context>
         <name>ListEditorModel</name>
@@ -856,6 +872,10 @@
         <message>
             <source>Give every category its colour from the palette again</source>
             <translation>すべての分類の色を既定の色に戻します</translation>
+        </message>
+        <message>
+            <source>The categories or payways were changed elsewhere while this window was open (by Undo or Redo). The window now shows them as they are; make your changes again.</source>
+            <translation>このウインドウを開いている間に、分類か支払い方法が別の場所で（取り消しかやり直しで）変更されました。ウインドウには現在の内容を表示しています。変更をもう一度行ってください。</translation>
         </message>
     </context>
     <context>
@@ -1521,6 +1541,14 @@ Show Details… tells more of each.</source>
         <message>
             <source>&amp;Redo</source>
             <translation>やり直す(&amp;R)</translation>
+        </message>
+        <message>
+            <source>“%1” could not be undone.</source>
+            <translation>「%1」を取り消せませんでした。</translation>
+        </message>
+        <message>
+            <source>“%1” could not be redone.</source>
+            <translation>「%1」をやり直せませんでした。</translation>
         </message>
     </context>
     <context>

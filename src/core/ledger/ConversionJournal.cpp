@@ -92,6 +92,7 @@ bool ConversionJournal::read(QString *error)
     m_phase = Phase::None;
     m_conversion = {};
     m_files.clear();
+    m_repeatable = true;
     QFile file(journalPath(m_folder));
     if (!file.exists())
         return true;
@@ -110,6 +111,7 @@ bool ConversionJournal::read(QString *error)
     m_conversion.categoryMap = mapFromJson(document[u"category"_s].toArray());
     m_conversion.paywayMap = mapFromJson(document[u"payway"_s].toArray());
     m_conversion.lists = listsFromJson(document[u"lists"_s].toObject());
+    m_repeatable = document[u"repeatable"_s].toBool(true);
     const QJsonArray files = document[u"files"_s].toArray();
     for (const QJsonValue &name : files)
         m_files.append(name.toString());
@@ -127,6 +129,7 @@ bool ConversionJournal::writeJournal(Phase phase, QString *error)
         {u"payway"_s, mapToJson(m_conversion.paywayMap)},
         {u"lists"_s, listsToJson(m_conversion.lists)},
         {u"files"_s, files},
+        {u"repeatable"_s, m_repeatable},
     };
     if (!DurableFile::write(journalPath(m_folder), QJsonDocument(journal).toJson(), error))
         return false;
@@ -135,10 +138,11 @@ bool ConversionJournal::writeJournal(Phase phase, QString *error)
 }
 
 bool ConversionJournal::begin(const ListConversion &conversion, const QStringList &files,
-                              QString *error)
+                              bool repeatable, QString *error)
 {
     m_conversion = conversion;
     m_files = files;
+    m_repeatable = repeatable;
     return writeJournal(Phase::Prepare, error);
 }
 

@@ -22,7 +22,9 @@
 //    atomic), writes the new lists into the list file, and removes the journal.
 //
 // Found in phase "prepare", the months are all old: abandon() throws the side
-// files away and the change can be run again from the journal. Found in phase
+// files away and a renumbering can be run again from the journal. A change
+// whose month contents were given rather than computed (an undo) is not
+// repeatable: it is dropped, and the folder stays as it was before it. Found in phase
 // "commit", finish() is run again; it renames only the side files still
 // there, so every month is either old with its new content waiting beside it,
 // or new. Every step is on the disk, folder entries included, before the
@@ -44,10 +46,12 @@ public:
     bool read(QString *error);
     Phase phase() const { return m_phase; }
     const ListConversion &conversion() const { return m_conversion; }
+    bool isRepeatable() const { return m_repeatable; }
     // File names of the months, relative to the folder.
     const QStringList &files() const { return m_files; }
 
-    bool begin(const ListConversion &conversion, const QStringList &files, QString *error);
+    bool begin(const ListConversion &conversion, const QStringList &files, bool repeatable,
+               QString *error);
     bool writeMonth(const QString &file, const QByteArray &content, QString *error);
     bool commit(QString *error);
     // replaced(n) after the n-th month file was replaced.
@@ -63,4 +67,5 @@ private:
     Phase m_phase = Phase::None;
     ListConversion m_conversion;
     QStringList m_files;
+    bool m_repeatable = true;
 };

@@ -68,6 +68,9 @@ QByteArray encodeConverted(const MonthDataList &month, const ListConversion &con
             conversion.categoryMap.value(r->category(), r->category()), r->details(),
             r->amount(), conversion.paywayMap.value(r->payway(), r->payway())));
     }
+    // In the order the month takes in memory once renumbered, so that file
+    // and memory agree byte for byte.
+    DataList::sortList(records, u"Date");
     MonthDataList converted(month.year(), month.month());
     converted.setDataListArray(records);
     converted.setSummary(month.summary());
@@ -454,14 +457,20 @@ void KController::endChange()
         emit changeRecorded(std::exchange(m_change, {}));
 }
 
-bool KController::restoreChange(const Change &change, bool before)
+bool KController::restoreChange(const Change &change, bool before, QString *error)
 {
+    if (change.changesLists())
+        return restoreLists(change, before, error);
     QList<std::pair<std::shared_ptr<MonthDataList>, std::shared_ptr<MonthDataList>>> restored;
     for (const MonthChange &month : change.months) {
-        QString reason;
         const auto list = monthListForYear(month.year, month.month);
-        auto state = MonthFile::decode(before ? month.before : month.after, &reason);
-        if (!list || list->isReadOnly() || !state)
+        if (!list || list->isReadOnly()) {
+            setError(error, tr("The file of %1/%2 could not be read, so the change cannot be "
+                               "taken back.").arg(month.month).arg(month.year));
+            return false;
+        }
+        auto state = MonthFile::decode(before ? month.before : month.after, error);
+        if (!state)
             return false;
         restored.append({list, state});
     }
@@ -700,14 +709,19 @@ bool KController::convertPayway(const ConversionMap &map)
 
 bool KController::convertStoredData(const ListConversion &conversion, QString *error)
 {
+    return !conversionUnderway(error) && runConversion(conversion, error);
+}
+
+bool KController::conversionUnderway(QString *error)
+{
     ConversionJournal journal(dataFolderPath());
     if (!journal.read(error))
-        return false;
+        return true;
     if (journal.phase() != ConversionJournal::Phase::None) {
         setError(error, tr("An earlier change of the lists has not been finished yet."));
-        return false;
+        return true;
     }
-    return runConversion(conversion, error);
+    return false;
 }
 
 QList<MonthDataList *> KController::cachedMonths() const
@@ -720,23 +734,70 @@ QList<MonthDataList *> KController::cachedMonths() const
     return months;
 }
 
+QVariantMap KController::heldLists(const QVariantMap &keys)
+{
+    const QVariantMap file = ListFile::read(dataFolderPath()).value_or(QVariantMap());
+    QVariantMap held;
+    for (auto it = keys.cbegin(); it != keys.cend(); ++it)
+        held.insert(it.key(), file.value(it.key()).toList());
+    return held;
+}
+
 bool KController::runConversion(const ListConversion &conversion, QString *error)
 {
-    const QString folder = dataFolderPath();
+    Change change{tr("Change of Categories and Payways"), {}, false,
+                  heldLists(conversion.lists), conversion.lists};
     if (!conversion.renumbers()) {
         if (!conversion.lists.isEmpty()
-            && !ListFile::setPreferenceDataLists(folder, conversion.lists, error))
+            && !ListFile::setPreferenceDataLists(dataFolderPath(), conversion.lists, error))
             return false;
         readListPreference();
+        if (change.listsBefore != change.listsAfter)
+            emit changeRecorded(change);
         return true;
     }
 
+    const auto months = monthsReadyForRewrite(error);
+    if (!months)
+        return false;
+    // Only the months whose entries take new numbers are rewritten; the
+    // change keeps both forms of each, to be taken back.
+    for (const auto &month : *months) {
+        QByteArray before = MonthFile::encode(*month);
+        QByteArray after = encodeConverted(*month, conversion);
+        if (before != after)
+            change.months.append({month->year(), month->month(), std::move(before),
+                                  std::move(after)});
+    }
+    if (!rewriteFolder(conversion, change.months, true, error))
+        return false;
+
+    // Each record reports its change; re-sorting its month for every one of
+    // them would make renumbering decades of entries crawl. The month is
+    // brought up to date once, after all its records.
+    const bool recordable = settleRewrittenMonths([&conversion](MonthDataList *month) {
+        if (!conversion.categoryMap.isEmpty())
+            month->convertCategory(conversion.categoryMap);
+        if (!conversion.paywayMap.isEmpty())
+            month->convertPayway(conversion.paywayMap);
+    });
+    if (!recordable) {
+        expireChanges();
+        return true;
+    }
+    emit changeRecorded(change);
+    return true;
+}
+
+std::optional<QList<std::shared_ptr<MonthDataList>>>
+KController::monthsReadyForRewrite(QString *error)
+{
     // The files must hold what the cache holds before the cache is written
     // out renumbered: loading may move records into other months, and
     // saving writes those.
     loadMonthFiles();
     saveAllEditedData();
-    const auto months = loadMonthFiles();
+    auto months = loadMonthFiles();
     for (const MonthDataList *month : cachedMonths()) {
         const QString date = QStringLiteral("%1/%2").arg(month->month()).arg(month->year());
         if (month->isReadOnly()) {
@@ -744,13 +805,13 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
                                "has been renumbered and the lists are unchanged. Mend or remove "
                                "the file %2 first.")
                                 .arg(date, filePathForYear(month->year(), month->month())));
-            return false;
+            return std::nullopt;
         }
         if (month->isEdited()) {
             setError(error, tr("The entries of %1 could not be saved, so none of the stored "
                                "entries has been renumbered and the lists are unchanged.")
                                 .arg(date));
-            return false;
+            return std::nullopt;
         }
     }
     // Records in the old numbers must not outlive the change.
@@ -758,24 +819,29 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
         setError(error, tr("The journal of changes %1 could not be removed, so none of the stored "
                            "entries has been renumbered and the lists are unchanged.")
                             .arg(QDir::toNativeSeparators(changeJournalPath())));
-        return false;
+        return std::nullopt;
     }
+    return months;
+}
 
+bool KController::rewriteFolder(const ListConversion &conversion,
+                                const QList<MonthChange> &months, bool after, QString *error)
+{
     QStringList files;
     files.reserve(months.size());
-    for (const auto &month : months)
-        files.append(QFileInfo(filePathForYear(month->year(), month->month())).fileName());
+    for (const MonthChange &month : months)
+        files.append(QFileInfo(filePathForYear(month.year, month.month)).fileName());
     const int count = int(files.size());
     const int total = 2 * count;
 
     // Whoever shows progress may let the event loop run; nothing else may
     // write a month until the folder is through.
     m_conversionRunning = true;
-    ConversionJournal journal(folder);
-    bool decided = journal.begin(conversion, files, error);
+    ConversionJournal journal(dataFolderPath());
+    bool decided = journal.begin(conversion, files, conversion.renumbers(), error);
     for (int i = 0; decided && i < count; ++i) {
-        decided =
-            journal.writeMonth(files.at(i), encodeConverted(*months.at(i), conversion), error);
+        const MonthChange &month = months.at(i);
+        decided = journal.writeMonth(files.at(i), after ? month.after : month.before, error);
         if (decided)
             emit conversionProgress(i + 1, total);
     }
@@ -789,45 +855,83 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
     const bool finished = journal.finish(
         [this, count, total](int done) { emit conversionProgress(count + done, total); }, &reason);
     m_conversionRunning = false;
-    const QList<MonthDataList *> cached = cachedMonths();
     if (!finished) {
-        // Some months hold the new numbers and some do not yet; the next start
-        // completes the change. Until then nothing of the old numbering may
-        // be written back.
-        for (MonthDataList *month : cached)
+        // Some months hold the new content and some do not yet; the next
+        // start completes the change. Until then nothing of the old may be
+        // written back.
+        for (MonthDataList *month : cachedMonths())
             month->setReadOnly(true);
         setError(error, tr("%1 The change is completed the next time Penwick starts; until then "
                            "no month is saved.").arg(reason));
         return false;
     }
+    return true;
+}
 
-    // Each record reports its change; re-sorting its month for every one of
-    // them would make renumbering decades of entries crawl. The month is
-    // brought up to date once, after all its records.
+bool KController::settleRewrittenMonths(const std::function<void(MonthDataList *)> &apply)
+{
+    const QList<MonthDataList *> cached = cachedMonths();
     QList<bool> changedMeanwhile;
     changedMeanwhile.reserve(cached.size());
     m_converting = true;
     for (MonthDataList *month : cached) {
         changedMeanwhile.append(month->isEdited());
-        if (!conversion.categoryMap.isEmpty())
-            month->convertCategory(conversion.categoryMap);
-        if (!conversion.paywayMap.isEmpty())
-            month->convertPayway(conversion.paywayMap);
+        apply(month);
     }
     m_converting = false;
     readListPreference();
-    // What was recorded before holds the old numbers.
+    // What the months held before is the files' no longer.
     m_current.clear();
-    expireChanges();
     for (qsizetype i = 0; i < cached.size(); ++i) {
-        // The files hold these numbers already, unless the month changed
-        // while the folder was being converted.
+        // The files hold this content already, unless the month changed
+        // while the folder was being rewritten.
         cached.at(i)->setIsEdited(changedMeanwhile.at(i));
         if (changedMeanwhile.at(i))
             m_current.insert(cacheKey(*cached.at(i)), MonthFile::encode(*cached.at(i)));
         cached.at(i)->notifyChange();
     }
     saveAllEditedData();
+    return !changedMeanwhile.contains(true);
+}
+
+bool KController::restoreLists(const Change &change, bool before, QString *error)
+{
+    ListConversion conversion;
+    conversion.lists = before ? change.listsBefore : change.listsAfter;
+    if (change.months.isEmpty()) {
+        if (!ListFile::setPreferenceDataLists(dataFolderPath(), conversion.lists, error))
+            return false;
+        readListPreference();
+        emit Notifications::instance()->listPreferenceHasUpDated();
+        return true;
+    }
+    if (conversionUnderway(error) || !monthsReadyForRewrite(error))
+        return false;
+    // The months must hold what the change left, or the restore would throw
+    // away whatever came after it.
+    QHash<int, PaymentArray> restored;
+    for (const MonthChange &month : change.months) {
+        const auto list = monthListForYear(month.year, month.month);
+        if (!list || MonthFile::encode(*list) != (before ? month.after : month.before)) {
+            setError(error, tr("The entries of %1/%2 were changed since, so the change of the "
+                               "lists cannot be taken back.")
+                                .arg(month.month).arg(month.year));
+            return false;
+        }
+        const auto state = MonthFile::decode(before ? month.before : month.after, error);
+        if (!state)
+            return false;
+        restored.insert(month.year * 100 + month.month, state->dataListArray());
+    }
+    if (!rewriteFolder(conversion, change.months, !before, error))
+        return false;
+    if (!settleRewrittenMonths([&restored](MonthDataList *month) {
+            const auto found = restored.constFind(month->year() * 100 + month->month());
+            if (found != restored.cend())
+                month->setDataListArray(*found);
+        }))
+        expireChanges();
+    emit Notifications::instance()->listPreferenceHasUpDated();
     return true;
 }
 
@@ -843,6 +947,12 @@ bool KController::finishInterruptedConversion(QString *error)
         return journal.finish({}, error);
     case ConversionJournal::Phase::Prepare:
         break;
+    }
+    if (!journal.isRepeatable()) {
+        journal.abandon();
+        setError(error, tr("Taking back a change of the category and payway lists was cut short. "
+                           "The lists and the entries are as they were before it."));
+        return false;
     }
     // Not one month was replaced yet: start the change again from the top.
     const ListConversion conversion = journal.conversion();

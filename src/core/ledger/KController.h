@@ -8,7 +8,9 @@
 #include <QObject>
 #include <QSet>
 #include <QTimer>
+#include <QVariantMap>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -98,6 +100,13 @@ public:
         // Made while typing (a memo): successive ones of the same months
         // are taken back as one.
         bool typing = false;
+        // A change of the category and payway lists: what the list file
+        // held under each key it rewrote, before and after. Its months are
+        // the entries it renumbered, and it is taken back the way it was
+        // made, crash-safe, through the folder's conversion journal.
+        QVariantMap listsBefore;
+        QVariantMap listsAfter;
+        bool changesLists() const { return !listsAfter.isEmpty(); }
     };
     // Every change of a month until the matching endChange() is one Change
     // under the label (the outermost one's), and one record of the journal.
@@ -121,9 +130,10 @@ public:
     };
     // Puts the months back into the state given, before or after the change
     // (undo and redo). Kept and saved like any change, but not recorded as
-    // one. False when a month can no longer take it (its file became
-    // unreadable).
-    bool restoreChange(const Change &change, bool before);
+    // one. False, with the reason, when a month can no longer take it (its
+    // file became unreadable) or, for the lists, the folder could not be
+    // rewritten; nothing is then changed.
+    bool restoreChange(const Change &change, bool before, QString *error = nullptr);
     // Whether an edited month of the cache is not on the disk.
     bool hasUnsavedMonths() const;
     struct UnsavedMonth
@@ -161,9 +171,10 @@ public:
     // the new lists into the list file, as one change: killed half-way, it is
     // finished by finishInterruptedConversion() at the next start, and every
     // month is either wholly old or wholly new (see ConversionJournal). The
-    // loaded months are renumbered too and announced. Refused, with nothing
-    // changed, while any month file cannot be read or an edited month cannot
-    // be saved; the reason goes to error.
+    // loaded months are renumbered too and announced, and the change is
+    // recorded to be taken back. Refused, with nothing changed, while any
+    // month file cannot be read or an edited month cannot be saved; the
+    // reason goes to error.
     bool convertStoredData(const ListConversion &conversion, QString *error = nullptr);
     bool convertCategory(const ConversionMap &map);
     bool convertPayway(const ConversionMap &map);
@@ -205,13 +216,35 @@ signals:
     void conversionProgress(int done, int total);
     // A change was made (see Change); emitted when it is complete.
     void changeRecorded(const KController::Change &change);
-    // The changes recorded so far can no longer be restored: the entries
-    // were renumbered, or the folder was let go.
+    // The changes recorded so far can no longer be restored: the folder was
+    // let go.
     void changesExpired();
 
 private:
     QList<std::shared_ptr<MonthDataList>> loadMonthFiles();
     bool runConversion(const ListConversion &conversion, QString *error);
+    // Whether the folder's conversion journal holds a change not yet
+    // finished, or cannot be read; the reason goes to error.
+    bool conversionUnderway(QString *error);
+    // Every month of the folder loaded, and on the disk as the cache holds
+    // it, so that the folder can be rewritten; nothing when a month is
+    // unreadable or unsaved, or changes are still journaled.
+    std::optional<QList<std::shared_ptr<MonthDataList>>> monthsReadyForRewrite(QString *error);
+    // Writes each month's content (after or before) and the lists through
+    // the conversion journal. True once the folder holds all of it; after
+    // the point of no return a failure leaves the cache read-only until the
+    // next start completes the change. Only a renumbering by maps is
+    // repeatable from the journal; a restore cut short is dropped.
+    bool rewriteFolder(const ListConversion &conversion, const QList<MonthChange> &months,
+                       bool after, QString *error);
+    // Brings the cache in line with a rewritten folder: apply() changes
+    // each cached month in memory, then the lists are read anew and the
+    // months announced. False when a month changed while the folder was
+    // being rewritten, which the changes recorded before cannot account for.
+    bool settleRewrittenMonths(const std::function<void(MonthDataList *)> &apply);
+    bool restoreLists(const Change &change, bool before, QString *error);
+    // What the list file holds now under each of the keys.
+    QVariantMap heldLists(const QVariantMap &keys);
     QList<MonthDataList *> cachedMonths() const;
     std::shared_ptr<MonthDataList> readMonthFile(int year, int month);
     void settleLoadedList(MonthDataList *list);

@@ -14,6 +14,8 @@ struct StoredLists
     QStringList categories;
     QList<RgbaColor> colors;
     QStringList payways;
+
+    friend bool operator==(const StoredLists &, const StoredLists &) = default;
 };
 
 // A change of the category and payway lists as it reaches the data folder:

@@ -37,6 +37,7 @@ KAppController::KAppController(QObject *parent)
     , m_history(new UndoHistory(m_ledger.get(), this))
 {
     createActions();
+    connect(m_history, &UndoHistory::stepFailed, m_alerts, &LedgerAlerts::report);
 }
 
 KAppController::~KAppController()

@@ -1,6 +1,8 @@
 #include "app/UndoHistory.h"
 
 #include <QAction>
+#include <QCursor>
+#include <QGuiApplication>
 #include <QUndoCommand>
 #include <QUndoStack>
 
@@ -13,8 +15,9 @@ constexpr int kTypingId = 1;
 class LedgerStep : public QUndoCommand
 {
 public:
-    LedgerStep(KController *ledger, KController::Change change)
-        : m_ledger(ledger)
+    LedgerStep(UndoHistory *history, KController *ledger, KController::Change change)
+        : m_history(history)
+        , m_ledger(ledger)
         , m_change(std::move(change))
     {
         setText(m_change.label.isEmpty() ? UndoHistory::tr("Change") : m_change.label);
@@ -47,12 +50,25 @@ public:
 private:
     void restore(bool before)
     {
-        // A month whose file has become unreadable takes nothing back; the
-        // step goes, rather than stand in the way of the others.
-        if (!m_ledger->restoreChange(m_change, before))
+        // Rewriting the folder for the lists takes up to a second on decades
+        // of entries.
+        if (m_change.changesLists())
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        QString reason;
+        const bool restored = m_ledger->restoreChange(m_change, before, &reason);
+        if (m_change.changesLists())
+            QGuiApplication::restoreOverrideCursor();
+        // A step that cannot be restored goes, rather than stand in the way
+        // of the others.
+        if (!restored) {
             setObsolete(true);
+            emit m_history->stepFailed(before ? UndoHistory::tr("“%1” could not be undone.").arg(text())
+                                              : UndoHistory::tr("“%1” could not be redone.").arg(text()),
+                                       reason);
+        }
     }
 
+    UndoHistory *m_history;
     KController *m_ledger;
     KController::Change m_change;
     bool m_made = false;
@@ -82,7 +98,7 @@ UndoHistory::UndoHistory(KController *ledger, QObject *parent)
 
 void UndoHistory::record(const KController::Change &change)
 {
-    m_stack->push(new LedgerStep(m_ledger, change));
+    m_stack->push(new LedgerStep(this, m_ledger, change));
 }
 
 void UndoHistory::updateActions()

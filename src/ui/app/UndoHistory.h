@@ -9,9 +9,10 @@ class QUndoStack;
 
 // The program's one history of changes, for Edit > Undo and Redo in every
 // window. Each change the ledger records is a step; taking it back puts the
-// months it touched back as they were, wherever they are shown. The history
-// lasts for the session and ends when the entries are renumbered or the data
-// folder changes, since its steps hold the old numbers or the old folder.
+// months it touched back as they were, wherever they are shown, and a change
+// of the lists takes its renumbering back with it. The history lasts for the
+// session and ends when the data folder changes, since its steps hold the
+// old folder's months.
 class UndoHistory : public QObject
 {
     Q_OBJECT
@@ -22,6 +23,10 @@ public:
     QAction *undoAction() const { return m_undo; }
     QAction *redoAction() const { return m_redo; }
     QUndoStack *stack() const { return m_stack; }
+
+signals:
+    // A step could not be taken back or made again; it leaves the history.
+    void stepFailed(const QString &text, const QString &reason);
 
 private:
     void record(const KController::Change &change);

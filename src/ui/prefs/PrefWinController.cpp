@@ -93,6 +93,12 @@ PrefWinController::PrefWinController(KController *controller, QWidget *parent)
 
     readListFromDefault();
     readSettings();
+    // The lists can change while the window is open (Undo in another
+    // window): edits not begun follow them.
+    connect(Notifications::instance(), &Notifications::listPreferenceHasUpDated, this, [this] {
+        if (!m_categoryModel->editor().isModified() && !m_paywayModel->editor().isModified())
+            readListFromDefault();
+    });
     resize(480, 460);
     restoreGeometry(Settings().savedLayout(SettingsKeys::PreferenceWindow));
 }
@@ -270,6 +276,7 @@ void PrefWinController::readListFromDefault()
     // The income category, last, is not edited here: it is written back
     // under its name in the current language on OK.
     const StoredLists stored = m_controller->storedLists();
+    m_listsShown = stored;
     QStringList categories = stored.categories;
     QList<RgbaColor> colors = stored.colors;
     QString income = incomeName();
@@ -430,6 +437,16 @@ void PrefWinController::setPassword()
 
 bool PrefWinController::convertAndWriteLists()
 {
+    // Edits made to lists that have changed since would renumber the
+    // entries by positions that no longer hold.
+    if (m_controller->storedLists() != m_listsShown) {
+        readListFromDefault();
+        showProblem(tr("The lists were not changed."),
+                    tr("The categories or payways were changed elsewhere while this window "
+                       "was open (by Undo or Redo). The window now shows them as they are; "
+                       "make your changes again."));
+        return false;
+    }
     const ListEditor &categories = m_categoryModel->editor();
     const ListEditor &payways = m_paywayModel->editor();
     ListConversion conversion;

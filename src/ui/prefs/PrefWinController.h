@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ledger/ListConversion.h"
+
 #include <QDialog>
 #include <QPersistentModelIndex>
 
@@ -78,6 +80,9 @@ private:
     QTabWidget *m_tabs;
     ListEditorModel *m_categoryModel;
     ListEditorModel *m_paywayModel;
+    // The lists as they were read into the editors; the list file must
+    // still hold them when the edits are written.
+    StoredLists m_listsShown;
 
     QLineEdit *m_dataPath;
     QCheckBox *m_openWindow[4];
