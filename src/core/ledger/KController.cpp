@@ -1030,16 +1030,17 @@ void KController::takeOutsideChanges(const QList<SharedFolder::FileChange> &file
         m_sharedFolder->lookAgainLater();
     bool changed = false;
     const QString listFile = ListFile::dictionaryPathString(dataFolderPath());
-    for (const SharedFolder::FileChange &change : busy ? QList<SharedFolder::FileChange>() : files) {
+    for (const SharedFolder::FileChange &change : files) {
+        if (busy)
+            break;
         if (change.path == listFile) {
             takeOutsideLists(&notices);
             m_sharedFolder->know(change.path, change.bytes);
             continue;
         }
         const auto yearMonth = DataFolder::yearMonthFromPath(change.path);
-        auto *month = yearMonth ? dynamic_cast<MonthDataList *>(
-                                      m_listStock.value(cacheKey(yearMonth->year, yearMonth->month)).get())
-                                : nullptr;
+        const int key = yearMonth ? cacheKey(yearMonth->year, yearMonth->month) : 0;
+        auto *month = dynamic_cast<MonthDataList *>(m_listStock.value(key).get());
         if (month)
             changed = takeOutsideMonth(month, change, &notices) || changed;
         else
@@ -1116,8 +1117,8 @@ bool KController::takeOutsideMonth(MonthDataList *month, const SharedFolder::Fil
         return true;
     }
 
-    std::shared_ptr<MonthDataList> before =
-        base ? MonthFile::decode(*base, &reason) : std::make_shared<MonthDataList>(month->year(), month->month());
+    // No file before: the month was empty.
+    std::shared_ptr<MonthDataList> before = base ? MonthFile::decode(*base, &reason) : nullptr;
     if (!before)
         before = std::make_shared<MonthDataList>(month->year(), month->month());
     const MonthMerge::Result merged =
