@@ -61,4 +61,32 @@ BENCHMARK(BM_RenumberRepeatedlyInOneFolder)
     ->UseRealTime()
     ->Iterations(3);
 
+// Undo and redo of that renumbering, one after the other: each rewrites the
+// months it touched through the same journal, from the contents kept.
+void BM_UndoRenumberingThirtyYears(benchmark::State &state)
+{
+    QTemporaryDir dir;
+    if (!LedgerGenerator().writeDataFolder(dir.path(), kFirstYear, kYears, kPerMonth))
+        qFatal("could not write the benchmark folder");
+    Settings().setDataPath(dir.path());
+    KController controller;
+    KController::Change change;
+    QObject::connect(&controller, &KController::changeRecorded,
+                     [&change](const KController::Change &made) { change = made; });
+    if (!controller.convertCategory(ConversionMap{{3, 2}, {2, 3}}))
+        qFatal("the conversion was refused");
+    bool undo = true;
+    for (auto _ : state) {
+        QString error;
+        if (!controller.restoreChange(change, undo, &error))
+            state.SkipWithError(qPrintable(error));
+        undo = !undo;
+    }
+    state.counters["months"] = double(change.months.size());
+}
+BENCHMARK(BM_UndoRenumberingThirtyYears)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime()
+    ->Iterations(4);
+
 } // namespace

@@ -418,6 +418,84 @@
             <source>Taking back a change of the category and payway lists was cut short. The lists and the entries are as they were before it.</source>
             <translation>Taking back a change of the category and payway lists was cut short. The lists and the entries are as they were before it.</translation>
         </message>
+        <message>
+            <source>The file was changed outside Penwick and cannot be read, so it is left as it is.</source>
+            <translation>The file was changed outside Penwick and cannot be read, so it is left as it is.</translation>
+        </message>
+        <message>
+            <source>A sync service left copies of files in the data folder.</source>
+            <translation>A sync service left copies of files in the data folder.</translation>
+        </message>
+        <message>
+            <source>Penwick does not read these files and leaves them as they are. Compare each with the month it names, copy over what is missing, then remove it:
+%1</source>
+            <translation>Penwick does not read these files and leaves them as they are. Compare each with the month it names, copy over what is missing, then remove it:
+%1</translation>
+        </message>
+        <message>
+            <source>The file of %1 was removed from the data folder.</source>
+            <translation>The file of %1 was removed from the data folder.</translation>
+        </message>
+        <message>
+            <source>Not by Penwick, which keeps even an empty month as a file. The month stays as it is here and its file is written again at its next change. The file was &quot;%1&quot;.</source>
+            <translation>Not by Penwick, which keeps even an empty month as a file. The month stays as it is here and its file is written again at its next change. The file was &quot;%1&quot;.</translation>
+        </message>
+        <message>
+            <source>The file of %1 was changed outside Penwick and cannot be read.</source>
+            <translation>The file of %1 was changed outside Penwick and cannot be read.</translation>
+        </message>
+        <message>
+            <source>%1
+
+The month stays as it is here, with your changes, and they replace the damaged file when it is saved.</source>
+            <translation>%1
+
+The month stays as it is here, with your changes, and they replace the damaged file when it is saved.</translation>
+        </message>
+        <message>
+            <source>Here: %1</source>
+            <translation>Here: %1</translation>
+        </message>
+        <message>
+            <source>deleted</source>
+            <translation>deleted</translation>
+        </message>
+        <message>
+            <source>There: %1</source>
+            <translation>There: %1</translation>
+        </message>
+        <message>
+            <source>The memo was changed on both; it now holds both texts.</source>
+            <translation>The memo was changed on both; it now holds both texts.</translation>
+        </message>
+        <message>
+            <source>Entries of %1 were changed both here and on another computer.</source>
+            <translation>Entries of %1 were changed both here and on another computer.</translation>
+        </message>
+        <message>
+            <source>Both versions of each are kept in the month, nothing was thrown away. Look at these entries and delete the version that is wrong:
+
+%1</source>
+            <translation>Both versions of each are kept in the month, nothing was thrown away. Look at these entries and delete the version that is wrong:
+
+%1</translation>
+        </message>
+        <message>
+            <source>The category and payway lists were rearranged on another computer.</source>
+            <translation>The category and payway lists were rearranged on another computer.</translation>
+        </message>
+        <message>
+            <source>Its renumbered months are taken in as they arrive.</source>
+            <translation>Its renumbered months are taken in as they arrive.</translation>
+        </message>
+        <message>
+            <source>Its renumbered months are taken in as they arrive. Entries changed here in the meantime still carry the old numbers and may show another category or payway; look over: %1</source>
+            <translation>Its renumbered months are taken in as they arrive. Entries changed here in the meantime still carry the old numbers and may show another category or payway; look over: %1</translation>
+        </message>
+        <message>
+            <source>The data folder was changed on another computer.</source>
+            <translation>The data folder was changed on another computer.</translation>
+        </message>
     </context>
     <context>
         <name>ListEditorModel</name>

@@ -417,6 +417,84 @@
             <source>Taking back a change of the category and payway lists was cut short. The lists and the entries are as they were before it.</source>
             <translation>分類と支払い方法の変更の取り消しが途中で止まりました。分類、支払い方法、記帳はすべて取り消す前のままです。</translation>
         </message>
+        <message>
+            <source>The file was changed outside Penwick and cannot be read, so it is left as it is.</source>
+            <translation>ファイルが Penwick の外で変更されて読み込めないため、そのまま残してあります。</translation>
+        </message>
+        <message>
+            <source>A sync service left copies of files in the data folder.</source>
+            <translation>同期サービスがデータフォルダにファイルのコピーを残しました。</translation>
+        </message>
+        <message>
+            <source>Penwick does not read these files and leaves them as they are. Compare each with the month it names, copy over what is missing, then remove it:
+%1</source>
+            <translation>Penwick はこれらのファイルを読み込まず、そのまま残します。それぞれを名前の示す月と見比べ、足りないものを書き写してから削除してください:
+%1</translation>
+        </message>
+        <message>
+            <source>The file of %1 was removed from the data folder.</source>
+            <translation>%1のファイルがデータフォルダから削除されました。</translation>
+        </message>
+        <message>
+            <source>Not by Penwick, which keeps even an empty month as a file. The month stays as it is here and its file is written again at its next change. The file was &quot;%1&quot;.</source>
+            <translation>Penwick による削除ではありません（Penwick は空の月もファイルとして残します）。この月はこちらではそのままで、次に変更したときにファイルを書き直します。ファイルは「%1」でした。</translation>
+        </message>
+        <message>
+            <source>The file of %1 was changed outside Penwick and cannot be read.</source>
+            <translation>%1のファイルが Penwick の外で変更され、読み込めません。</translation>
+        </message>
+        <message>
+            <source>%1
+
+The month stays as it is here, with your changes, and they replace the damaged file when it is saved.</source>
+            <translation>%1
+
+この月はこちらでの変更を含めてそのままです。保存すると、壊れたファイルはこちらの内容で置き換えられます。</translation>
+        </message>
+        <message>
+            <source>Here: %1</source>
+            <translation>こちら: %1</translation>
+        </message>
+        <message>
+            <source>deleted</source>
+            <translation>削除済み</translation>
+        </message>
+        <message>
+            <source>There: %1</source>
+            <translation>相手側: %1</translation>
+        </message>
+        <message>
+            <source>The memo was changed on both; it now holds both texts.</source>
+            <translation>メモが両方で変更されたため、両方の文章を残しました。</translation>
+        </message>
+        <message>
+            <source>Entries of %1 were changed both here and on another computer.</source>
+            <translation>%1の記帳が、こちらと別のコンピュータの両方で変更されました。</translation>
+        </message>
+        <message>
+            <source>Both versions of each are kept in the month, nothing was thrown away. Look at these entries and delete the version that is wrong:
+
+%1</source>
+            <translation>どちらの版も月の中に残してあり、何も捨てていません。次の記帳を確認し、誤っている方を削除してください:
+
+%1</translation>
+        </message>
+        <message>
+            <source>The category and payway lists were rearranged on another computer.</source>
+            <translation>分類と支払い方法のリストが別のコンピュータで並べ替えられました。</translation>
+        </message>
+        <message>
+            <source>Its renumbered months are taken in as they arrive.</source>
+            <translation>番号を振り直した月は、届きしだい読み込みます。</translation>
+        </message>
+        <message>
+            <source>Its renumbered months are taken in as they arrive. Entries changed here in the meantime still carry the old numbers and may show another category or payway; look over: %1</source>
+            <translation>番号を振り直した月は、届きしだい読み込みます。その間にこちらで変更した記帳は古い番号のままなので、別の分類や支払い方法が表示されることがあります。確認してください: %1</translation>
+        </message>
+        <message>
+            <source>The data folder was changed on another computer.</source>
+            <translation>データフォルダが別のコンピュータで変更されました。</translation>
+        </message>
     </context>
     <context>
         <name>ListEditorModel</name>

@@ -36,7 +36,10 @@ SingleInstance::~SingleInstance() = default;
 
 std::unique_ptr<QLockFile> SingleInstance::lockFor(const QString &dataFolder)
 {
-    auto lock = std::make_unique<QLockFile>(QDir(dataFolder).filePath(QStringLiteral(".penwick.lock")));
+    // Beside the socket, not in the folder: a folder a sync service shares
+    // with another computer would carry the lock there too, and that
+    // computer could not start while this one runs.
+    auto lock = std::make_unique<QLockFile>(serverName(dataFolder) + QStringLiteral(".lock"));
     // Held for as long as the program runs; only a dead owner makes it stale.
     lock->setStaleLockTime(0);
     return lock;

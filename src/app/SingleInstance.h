@@ -7,8 +7,9 @@
 
 #include <memory>
 
-// One running instance per data folder. The first launch holds a lock file in
-// the folder and listens on a local socket named after it; a later launch
+// One running instance per data folder on this computer. The first launch
+// holds a lock file named after the folder in the user's runtime folder and
+// listens on a local socket of that name; a later launch
 // finds the lock taken, hands its request (the files it was asked to open,
 // or nothing, meaning "come to the front") to the running one and exits.
 // A lock left behind by a crashed instance is recognised by its process ID

@@ -2,10 +2,12 @@
 
 #include "ledger/ConversionJournal.h"
 #include "ledger/DataFolder.h"
+#include "ledger/MonthMerge.h"
 #include "model/EntryLimits.h"
 #include "model/ModifMonthList.h"
 #include "model/MonthDataList.h"
 #include "model/Notifications.h"
+#include "model/NumberValue.h"
 #include "model/YearDataList.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
@@ -19,6 +21,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QtDebug>
 
 #include <algorithm>
@@ -80,7 +83,9 @@ QByteArray encodeConverted(const MonthDataList &month, const ListConversion &con
 
 KController::KController(QObject *parent)
     : QObject(parent)
+    , m_sharedFolder(new SharedFolder(this))
 {
+    connect(m_sharedFolder, &SharedFolder::changed, this, &KController::takeOutsideChanges);
     m_saveTimer.setSingleShot(true);
     m_saveTimer.setInterval(kSaveDelayMs);
     connect(&m_saveTimer, &QTimer::timeout, this, &KController::saveAllEditedData);
@@ -101,8 +106,11 @@ KController::~KController()
 
 QString KController::dataFolderPath()
 {
-    if (m_dataFolder.isEmpty())
+    if (m_dataFolder.isEmpty()) {
         m_dataFolder = DataFolder::dataFolderPath();
+        if (m_watchShared)
+            startWatchingSharedFolder();
+    }
     return m_dataFolder;
 }
 
@@ -175,11 +183,14 @@ std::shared_ptr<MonthDataList> KController::readMonthFile(int year, int month)
     std::shared_ptr<MonthDataList> list;
     // Opened before asking whether it exists: most months do, and the
     // question costs a system call.
-    if (file.open(QIODevice::ReadOnly))
-        list = MonthFile::decode(file.readAll(), &reason);
-    else if (!file.exists())
+    if (file.open(QIODevice::ReadOnly)) {
+        const QByteArray content = file.readAll();
+        m_sharedFolder->know(path, content);
+        list = MonthFile::decode(content, &reason);
+    } else if (!file.exists()) {
+        m_sharedFolder->know(path, std::nullopt);
         return std::make_shared<MonthDataList>(year, month);
-    else
+    } else
         reason = file.errorString();
     if (list && (list->year() != year || list->month() != month)) {
         reason = tr("the file holds %1/%2 instead").arg(list->year()).arg(list->month());
@@ -236,6 +247,20 @@ bool KController::writeMonth(MonthDataList *list, QString *reason)
                      "are not saved.");
         return false;
     }
+    const QString path = filePathForYear(list->year(), list->month());
+    // Whatever others put into the file since it was read or written goes
+    // into the month first, rather than being written over.
+    if (const auto change = m_sharedFolder->changeOf(path)) {
+        QList<Notice> notices;
+        if (takeOutsideMonth(list, *change, &notices))
+            expireChanges();
+        tell(notices);
+        if (list->isReadOnly()) {
+            *reason = tr("The file was changed outside Penwick and cannot be read, so it is left "
+                         "as it is.");
+            return false;
+        }
+    }
     const QByteArray content = MonthFile::encode(*list);
     // The journal's last record of a month must never be older than its file,
     // or a replay would turn the file back: a change that reached the month
@@ -245,8 +270,9 @@ bool KController::writeMonth(MonthDataList *list, QString *reason)
     if (list->isEdited()
         && content != (m_current.contains(key) ? m_current.value(key) : contentAsLoaded(*list)))
         recordMonths({list});
-    if (!DurableFile::write(filePathForYear(list->year(), list->month()), content, reason))
+    if (!DurableFile::write(path, content, reason))
         return false;
+    m_sharedFolder->know(path, content);
     list->setIsEdited(false);
     return true;
 }
@@ -610,6 +636,7 @@ bool KController::releaseAllDataWithSave(bool save)
     m_saveTimer.stop();
     m_listStock.clear();
     m_dataFolder.clear();
+    m_sharedFolder->watch({});
     // Whatever the journal still holds is replayed when the folder is used
     // again.
     m_journal.reset();
@@ -855,6 +882,16 @@ bool KController::rewriteFolder(const ListConversion &conversion,
     const bool finished = journal.finish(
         [this, count, total](int done) { emit conversionProgress(count + done, total); }, &reason);
     m_conversionRunning = false;
+    // Our own doing, not to be taken for another computer's; cut short, the
+    // folder holds some months of each kind.
+    for (int i = 0; i < count; ++i) {
+        const QString path = QDir(dataFolderPath()).filePath(files.at(i));
+        QFile file(path);
+        const MonthChange &month = months.at(i);
+        m_sharedFolder->know(path, finished || !file.open(QIODevice::ReadOnly)
+                                       ? (after ? month.after : month.before)
+                                       : file.readAll());
+    }
     if (!finished) {
         // Some months hold the new content and some do not yet; the next
         // start completes the change. Until then nothing of the old may be
@@ -1017,6 +1054,13 @@ void KController::readListPreference()
 {
     // One read of the list file serves the check and both lists.
     QString problem;
+    if (m_sharedFolder->isWatching()) {
+        const QString path = ListFile::dictionaryPathString(dataFolderPath());
+        QFile file(path);
+        m_sharedFolder->know(path, file.open(QIODevice::ReadOnly)
+                                       ? std::optional<QByteArray>(file.readAll())
+                                       : std::nullopt);
+    }
     const std::optional<QVariantMap> lists = ListFile::read(dataFolderPath(), &problem);
     if (lists)
         problem.clear();
@@ -1047,4 +1091,232 @@ void KController::scheduleSave(DataList *list)
         keepChange(month);
     else if (list && list->isEdited())
         m_saveTimer.start();
+}
+
+// Changes of the data folder by others ------------------------------------
+
+void KController::watchSharedFolder()
+{
+    m_watchShared = true;
+    if (!m_sharedFolder->isWatching())
+        startWatchingSharedFolder();
+}
+
+void KController::startWatchingSharedFolder()
+{
+    const QString folder = dataFolderPath();
+    m_sharedFolder->watch(folder);
+    // What is loaded already was read from the files as they are now, or
+    // written into them.
+    auto contentOf = [](const QString &path) -> std::optional<QByteArray> {
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly))
+            return file.readAll();
+        return std::nullopt;
+    };
+    const QString listFile = ListFile::dictionaryPathString(folder);
+    m_sharedFolder->know(listFile, contentOf(listFile));
+    for (const MonthDataList *month : cachedMonths()) {
+        const QString path = filePathForYear(month->year(), month->month());
+        m_sharedFolder->know(path, contentOf(path));
+    }
+}
+
+void KController::takeOutsideChanges(const QList<SharedFolder::FileChange> &files,
+                                     const QStringList &conflictCopies)
+{
+    QList<Notice> notices;
+    if (!conflictCopies.isEmpty()) {
+        notices.append(
+            {tr("A sync service left copies of files in the data folder."),
+             tr("Penwick does not read these files and leaves them as they are. Compare each "
+                "with the month it names, copy over what is missing, then remove it:\n%1")
+                 .arg(conflictCopies.join(u'\n'))});
+    }
+    // The renumbering writes every month; what others did meanwhile is taken
+    // once it is through.
+    const bool busy = m_conversionRunning || m_converting;
+    if (busy && !files.isEmpty())
+        m_sharedFolder->lookAgainLater();
+    bool changed = false;
+    const QString listFile = ListFile::dictionaryPathString(dataFolderPath());
+    for (const SharedFolder::FileChange &change : files) {
+        if (busy)
+            break;
+        if (change.path == listFile) {
+            takeOutsideLists(&notices);
+            m_sharedFolder->know(change.path, change.bytes);
+            continue;
+        }
+        const auto yearMonth = DataFolder::yearMonthFromPath(change.path);
+        const int key = yearMonth ? cacheKey(yearMonth->year, yearMonth->month) : 0;
+        auto *month = dynamic_cast<MonthDataList *>(m_listStock.value(key).get());
+        if (month)
+            changed = takeOutsideMonth(month, change, &notices) || changed;
+        else
+            m_sharedFolder->know(change.path, change.bytes);
+    }
+    // The recorded changes hold whole months as they were here: taking one
+    // back now would throw away what came from outside.
+    if (changed)
+        expireChanges();
+    tell(notices);
+}
+
+bool KController::takeOutsideMonth(MonthDataList *month, const SharedFolder::FileChange &change,
+                                   QList<Notice> *notices)
+{
+    const int key = cacheKey(*month);
+    const QString name = QLocale().toString(QDate(month->year(), month->month(), 1),
+                                            QStringLiteral("MMMM yyyy"));
+    const std::optional<QByteArray> base = m_sharedFolder->known(change.path);
+    m_sharedFolder->know(change.path, change.bytes);
+    if (!change.bytes) {
+        // Penwick never removes a month file, an emptied month included, so
+        // this is no deletion of entries to follow: a sync tool between two
+        // steps, or a mistake.
+        notices->append({tr("The file of %1 was removed from the data folder.").arg(name),
+                         tr("Not by Penwick, which keeps even an empty month as a file. The "
+                            "month stays as it is here and its file is written again at its "
+                            "next change. The file was \"%1\".")
+                             .arg(QDir::toNativeSeparators(change.path))});
+        return false;
+    }
+    const bool unreadableHere = m_unreadableMonths.contains(key);
+    // Read-only for a renumbering cut short: left to the next start.
+    if (month->isReadOnly() && !unreadableHere)
+        return false;
+    QString reason;
+    std::shared_ptr<MonthDataList> theirs = MonthFile::decode(*change.bytes, &reason);
+    if (theirs && (theirs->year() != month->year() || theirs->month() != month->month())) {
+        reason = tr("the file holds %1/%2 instead").arg(theirs->year()).arg(theirs->month());
+        theirs.reset();
+    }
+    if (!theirs) {
+        if (unreadableHere)
+            return false;
+        if (month->isEdited()) {
+            notices->append({tr("The file of %1 was changed outside Penwick and cannot be read.")
+                                 .arg(name),
+                             tr("%1\n\nThe month stays as it is here, with your changes, and "
+                                "they replace the damaged file when it is saved.")
+                                 .arg(reason)});
+            return false;
+        }
+        // As when it is found so at loading: never written over.
+        month->setReadOnly(true);
+        m_unreadableMonths.insert(key, reason);
+        emit monthFileUnreadable(change.path, reason);
+        return false;
+    }
+
+    const bool recording = std::exchange(m_recording, false);
+    if (!month->isEdited() || month->isReadOnly()) {
+        month->setReadOnly(false);
+        m_unreadableMonths.remove(key);
+        month->setDataListArray(theirs->dataListArray());
+        month->setSummary(theirs->summary());
+        month->dataHasChanged();
+        m_current.insert(key, *change.bytes);
+        settleLoadedList(month);
+        // A replay must not bring back what the journal holds of it.
+        if (m_journaledMonths.contains(key))
+            journal({{month->year(), month->month(), {}, m_current.value(key)}});
+        m_recording = recording;
+        month->notifyChange();
+        return true;
+    }
+
+    // No file before: the month was empty.
+    std::shared_ptr<MonthDataList> before = base ? MonthFile::decode(*base, &reason) : nullptr;
+    if (!before)
+        before = std::make_shared<MonthDataList>(month->year(), month->month());
+    const MonthMerge::Result merged =
+        MonthMerge::merge({before->dataListArray(), before->summary()},
+                          {month->dataListArray(), month->summary()},
+                          {theirs->dataListArray(), theirs->summary()});
+    month->setDataListArray(merged.records);
+    month->setSummary(merged.summary);
+    month->dataHasChanged();
+    // A change like any other: journaled now, saved with the others.
+    recordMonths({month});
+    m_recording = recording;
+    month->notifyChange();
+
+    if (!merged.conflicts.isEmpty() || merged.summaryConflict) {
+        QStringList lines;
+        for (const MonthMerge::Conflict &conflict : merged.conflicts) {
+            lines.append(tr("Here: %1").arg(conflict.ours ? describeEntry(conflict.ours)
+                                                          : tr("deleted")));
+            lines.append(tr("There: %1").arg(conflict.theirs ? describeEntry(conflict.theirs)
+                                                             : tr("deleted")));
+            lines.append(QString());
+        }
+        if (merged.summaryConflict)
+            lines.append(tr("The memo was changed on both; it now holds both texts."));
+        notices->append(
+            {tr("Entries of %1 were changed both here and on another computer.").arg(name),
+             tr("Both versions of each are kept in the month, nothing was thrown away. Look at "
+                "these entries and delete the version that is wrong:\n\n%1")
+                 .arg(lines.join(u'\n').trimmed())});
+    }
+    return true;
+}
+
+void KController::takeOutsideLists(QList<Notice> *notices)
+{
+    const QStringList categories = m_categoryList;
+    const QStringList payways = m_paywayList;
+    readListPreference();
+    // Renaming keeps every entry's number; moving or removing an item means
+    // the other computer renumbered its months.
+    auto rearranged = [](const QStringList &before, const QStringList &after) {
+        if (after.size() < before.size())
+            return true;
+        for (qsizetype i = 0; i < before.size(); ++i) {
+            if (const qsizetype at = after.indexOf(before.at(i)); at >= 0 && at != i)
+                return true;
+        }
+        return false;
+    };
+    if (rearranged(categories, m_categoryList) || rearranged(payways, m_paywayList)) {
+        expireChanges();
+        QStringList edited;
+        for (const MonthDataList *month : cachedMonths()) {
+            if (month->isEdited())
+                edited.append(QLocale().toString(QDate(month->year(), month->month(), 1),
+                                                 QStringLiteral("MMMM yyyy")));
+        }
+        notices->append(
+            {tr("The category and payway lists were rearranged on another computer."),
+             edited.isEmpty()
+                 ? tr("Its renumbered months are taken in as they arrive.")
+                 : tr("Its renumbered months are taken in as they arrive. Entries changed here "
+                      "in the meantime still carry the old numbers and may show another "
+                      "category or payway; look over: %1")
+                       .arg(edited.join(QStringLiteral(", ")))});
+    }
+    emit Notifications::instance()->listPreferenceHasUpDated();
+}
+
+void KController::tell(const QList<Notice> &notices)
+{
+    if (notices.isEmpty())
+        return;
+    QStringList details;
+    for (const Notice &notice : notices)
+        details.append(notices.size() == 1 ? notice.details : notice.text + u'\n' + notice.details);
+    emit sharedFolderNotice(notices.size() == 1
+                                ? notices.constFirst().text
+                                : tr("The data folder was changed on another computer."),
+                            details.join(QStringLiteral("\n\n")));
+}
+
+QString KController::describeEntry(const PaymentDataPtr &record) const
+{
+    const QDate day = QDate(record->year(), record->month(), 1).addDays(record->date() - 1);
+    return QStringList{QLocale().toString(day, QLocale::ShortFormat),
+                       m_categoryList.value(record->category()), record->details(),
+                       amountText(record->amount()), m_paywayList.value(record->payway())}
+        .join(QStringLiteral(", "));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ledger/ListConversion.h"
+#include "ledger/SharedFolder.h"
 #include "model/LedgerController.h"
 
 #include <QHash>
@@ -200,6 +201,15 @@ public:
     QStringList categoryList() const override { return m_categoryList; }
     QStringList paywayList() const override { return m_paywayList; }
 
+    // From now on, and in every data folder used later, changes that others
+    // make to the folder's files (a second computer through a sync service)
+    // are taken in: a cached month that is not edited here reloads, an edited
+    // one is merged with theirs (see MonthMerge), the list file is read
+    // again. Before a month is written its file is checked, so that no
+    // outside change is written over. Such a change cannot be taken back, so
+    // the changes recorded so far expire.
+    void watchSharedFolder();
+
 signals:
     // Emitted before the edited months are written, so that a window can hand
     // over what it still holds (a memo being typed).
@@ -219,6 +229,10 @@ signals:
     // The changes recorded so far can no longer be restored: the folder was
     // let go.
     void changesExpired();
+    // What the user should look at after others changed the data folder:
+    // entries changed on both sides, a month file gone or damaged, copies a
+    // sync service left. One call for everything found at one look.
+    void sharedFolderNotice(const QString &text, const QString &details);
 
 private:
     QList<std::shared_ptr<MonthDataList>> loadMonthFiles();
@@ -266,6 +280,23 @@ private:
     bool writeMonth(MonthDataList *list, QString *reason);
     void setMonthWritten(const MonthDataList *list, const QString &failure);
 
+    // Changes of the data folder by others (see watchSharedFolder()).
+    void startWatchingSharedFolder();
+    void takeOutsideChanges(const QList<SharedFolder::FileChange> &files,
+                            const QStringList &conflictCopies);
+    struct Notice
+    {
+        QString text;
+        QString details;
+    };
+    // Takes the file's new content into its cached month; true when the
+    // month changed.
+    bool takeOutsideMonth(MonthDataList *month, const SharedFolder::FileChange &change,
+                          QList<Notice> *notices);
+    void takeOutsideLists(QList<Notice> *notices);
+    void tell(const QList<Notice> &notices);
+    QString describeEntry(const PaymentDataPtr &record) const;
+
     // year * 100 + month to list; month 0 holds the year list.
     QHash<int, std::shared_ptr<DataList>> m_listStock;
     QString m_dataFolder;
@@ -301,4 +332,7 @@ private:
     Change m_change;
     int m_changeDepth = 0;
     bool m_recording = true;
+
+    SharedFolder *m_sharedFolder;
+    bool m_watchShared = false;
 };

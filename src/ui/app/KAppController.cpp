@@ -210,6 +210,8 @@ void KAppController::startUp()
     }
     registerMyNotifications();
     m_ledger->readListPreference();
+    // The folder may be shared with another computer through a sync service.
+    m_ledger->watchSharedFolder();
     if (m_inBackground)
         return;
     openStartWindows();

@@ -37,6 +37,7 @@ LedgerAlerts::LedgerAlerts(KController *ledger, QObject *parent)
             &LedgerAlerts::reportMonthFileNotWritten);
     connect(m_ledger, &KController::listFileUnreadable, this,
             &LedgerAlerts::reportListFileUnreadable);
+    connect(m_ledger, &KController::sharedFolderNotice, this, &LedgerAlerts::report);
 }
 
 void LedgerAlerts::askAboutUnsavedMonths(std::function<void(QuitAnswer)> answer)

@@ -12,8 +12,9 @@ class QMessageBox;
 // What the program tells the user about the data folder itself: a month or
 // the list file that cannot be read, a month that cannot be saved (each path
 // once, so that a folder of broken files or a disk that stays full is told
-// once rather than at every save), the months that hold up a quit, and the
-// months kept from an earlier run. Sheets go on the window in front.
+// once rather than at every save), the months that hold up a quit, the
+// months kept from an earlier run, and what another computer sharing the
+// folder changed that needs a look. Sheets go on the window in front.
 class LedgerAlerts : public QObject
 {
     Q_OBJECT
