@@ -66,7 +66,8 @@ for program in penwick penwickctl; do
   file --brief "$root/usr/bin/$program" | grep -q '^ELF.*, stripped' ||
     fail "$program was not installed, or not stripped"
 done
-"$root/usr/bin/penwickctl" --help | grep -q '^Commands:' || fail "penwickctl --help"
+help=$("$root/usr/bin/penwickctl" --help) || fail "penwickctl --help failed"
+[[ $help == *$'\nCommands:\n'* ]] || fail "penwickctl --help lists no commands: $help"
 grep -qx 'Exec=/usr/bin/penwick --background' \
   "$root/usr/share/dbus-1/services/org.penwick.Penwick.Search.service" ||
   fail "the search's service does not start /usr/bin/penwick"
