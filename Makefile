@@ -3,12 +3,13 @@
 
 BUILD_DIR    ?= build
 SANITIZE_DIR ?= build-sanitize
+PACKAGE_DIR  ?= build-package
 JOBS         ?= $(shell nproc)
 CMAKE_FLAGS  ?=
 
 APP := $(BUILD_DIR)/src/app/penwick
 
-.PHONY: all deps configure build run test test-sanitize bench clean
+.PHONY: all deps configure build run test test-sanitize bench package clean
 
 all: build
 
@@ -39,5 +40,18 @@ bench: build
 	@for b in $(BUILD_DIR)/bench/bench_*; do [ -x "$$b" ] && "$$b" || exit 1; done
 	@bench/startup.sh $(BUILD_DIR)
 
+# The Debian package penwick_<version>_<arch>.deb, here, from a Release tree of
+# its own built with Debian's hardening flags; only what it installs is built.
+package: deps
+	@export DEB_BUILD_MAINT_OPTIONS=hardening=+all; \
+	 CXXFLAGS="$$(dpkg-buildflags --get CXXFLAGS) $$(dpkg-buildflags --get CPPFLAGS)" \
+	 LDFLAGS="$$(dpkg-buildflags --get LDFLAGS)" \
+	 cmake -S . -B $(PACKAGE_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Release -DPENWICK_BUILD_BENCH=OFF \
+	    -DCMAKE_SKIP_INSTALL_ALL_DEPENDENCY=ON $(CMAKE_FLAGS) >/dev/null
+	@cmake --build $(PACKAGE_DIR) -j $(JOBS) --target penwick penwickctl man_pages
+	@cd $(PACKAGE_DIR) && cpack >/dev/null
+	@cp $(PACKAGE_DIR)/penwick_*.deb .
+	@ls penwick_*.deb
+
 clean:
-	@rm -rf $(BUILD_DIR) $(SANITIZE_DIR)
+	@rm -rf $(BUILD_DIR) $(SANITIZE_DIR) $(PACKAGE_DIR)

@@ -34,6 +34,9 @@ packages=(
   fonts-droid-fallback
   dbus-daemon
   libglib2.0-bin
+  dpkg-dev
+  file
+  lintian
 )
 
 missing=()
