@@ -1,4 +1,5 @@
 #include "DumpCommand.h"
+#include "LunchMonth.h"
 
 #include "model/MonthDataList.h"
 #include "model/PaymentData.h"
@@ -16,13 +17,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// May 2006 with one lunch of 800 (written as an integer) and the memo "memo",
-// its records in a mutable array.
-const char LunchMonthHex[] =
-    "040b73747265616d747970656481e8038401408484840d4d6f6e7468446174614c69737402848408446174614c"
-    "697374018484084e534f626a656374008584016981d6079605928484840e4e534d757461626c6541727261790084"
-    "84074e53417272617900959601928484840b5061796d656e744461746102959681d60796059603960292848484084e"
-    "53537472696e67019584012b054c756e6368868401668120039600868692849c9b046d656d6f8686";
 // The length and bytes of "Lunch" in it.
 const char LunchHex[] = "054c756e6368";
 

@@ -1,3 +1,4 @@
+#include "LunchMonth.h"
 #include "TestDataFolder.h"
 #include "TestHelpers.h"
 
@@ -243,11 +244,7 @@ void TestKController::resaveWritesEveryMonth()
 {
     // A clean month written by another program in another (valid) form: its
     // records in an immutable array object.
-    const QByteArray foreign = QByteArray::fromHex(
-        "040b73747265616d747970656481e8038401408484840d4d6f6e7468446174614c69737402848408446174"
-        "614c697374018484084e534f626a656374008584016981d607960592848484074e53417272617900959601"
-        "928484840b5061796d656e744461746102959681d60796059603960292848484084e53537472696e670195"
-        "84012b054c756e6368868401668120039600868692849b9a046d656d6f8686");
+    const QByteArray foreign = QByteArray::fromHex(LunchMonthArrayHex);
     const QString path = m_home.filePath(u"Data_2006_5.Penwick"_s);
     writeBytes(path, foreign);
 

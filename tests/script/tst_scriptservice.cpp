@@ -53,20 +53,17 @@ Run runClient(const QString &program, const QStringList &arguments)
             QString::fromUtf8(process.readAllStandardError())};
 }
 
-Run gdbus(const QString &path, const QString &method, const QStringList &arguments = {})
+Run gdbus(const QString &service, const QString &path, const QString &method,
+          const QStringList &arguments = {})
 {
-    return runClient(u"gdbus"_s, QStringList{u"call"_s, u"--session"_s, u"--dest"_s,
-                                             ScriptNames::Service, u"--object-path"_s, path,
-                                             u"--method"_s, method}
+    return runClient(u"gdbus"_s, QStringList{u"call"_s, u"--session"_s, u"--dest"_s, service,
+                                             u"--object-path"_s, path, u"--method"_s, method}
                                      + arguments);
 }
 
 Run searchCall(const QString &path, const QString &method, const QStringList &arguments)
 {
-    return runClient(u"gdbus"_s, QStringList{u"call"_s, u"--session"_s, u"--dest"_s,
-                                             ScriptNames::SearchService, u"--object-path"_s, path,
-                                             u"--method"_s, method}
-                                     + arguments);
+    return gdbus(ScriptNames::SearchService, path, method, arguments);
 }
 
 QStringList resultIDsIn(const QString &reply)
@@ -254,24 +251,25 @@ void TestScriptService::searchAndSortThroughAnotherClient()
                   std::make_shared<PaymentData>(2006, 5, 10, 5, u"Bus pass"_s, 60, 1),
                   std::make_shared<PaymentData>(2006, 5, 11, 3, u"Socks"_s, 12, 0)});
     const QString path = ScriptNames::DataListsPath + u"200605"_s;
-    QDBusInterface(ScriptNames::Service, ScriptNames::ApplicationPath,
-                   ScriptNames::ApplicationInterface, QDBusConnection::sessionBus())
-        .call(u"DataListWithID"_s, 200605);
+    application().call(u"DataListWithID"_s, 200605);
+    const auto call = [&path](const QString &method, const QStringList &arguments) {
+        return gdbus(ScriptNames::Service, path, method, arguments);
+    };
 
     // A category text of two numbers selects either.
-    const Run search = gdbus(path, u"org.penwick.Penwick.DataList.ExtractWithASCommand"_s,
-                             {u"{'Category': <'2 5'>}"_s});
+    const Run search = call(u"org.penwick.Penwick.DataList.ExtractWithASCommand"_s,
+                            {u"{'Category': <'2 5'>}"_s});
     QVERIFY2(search.exitCode == 0, qPrintable(search.err));
     QVERIFY(search.out.contains(u"Bread"_s) && search.out.contains(u"Bus pass"_s));
     QVERIFY(!search.out.contains(u"Socks"_s));
 
-    const Run sorted = gdbus(path, u"org.penwick.Penwick.DataList.SortWithASCommand"_s,
-                             {u"{'sortKey': <'Amount'>, 'descend': <true>, 'ascend': <true>}"_s});
+    const Run sorted = call(u"org.penwick.Penwick.DataList.SortWithASCommand"_s,
+                            {u"{'sortKey': <'Amount'>, 'descend': <true>, 'ascend': <true>}"_s});
     QVERIFY2(sorted.exitCode == 0, qPrintable(sorted.err));
     QVERIFY(sorted.out.indexOf(u"Bread"_s) < sorted.out.indexOf(u"Bus pass"_s));
 
-    const Run year = gdbus(path, u"org.freedesktop.DBus.Properties.Get"_s,
-                           {u"org.penwick.Penwick.DataList"_s, u"Year"_s});
+    const Run year = call(u"org.freedesktop.DBus.Properties.Get"_s,
+                          {u"org.penwick.Penwick.DataList"_s, u"Year"_s});
     QCOMPARE(year.out.trimmed(), u"(<2006>,)"_s);
     QCOMPARE(recordsAt(path, u"CancelExtractWithASCommand"_s).size(), 3);
 }

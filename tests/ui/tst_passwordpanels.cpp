@@ -1,4 +1,5 @@
 #include "TestDataFolder.h"
+#include "TestHelpers.h"
 
 #include "password/ConfirmPassPanelController.h"
 #include "password/SetPassPanelController.h"
@@ -36,15 +37,6 @@ QString storedHash()
 bool storedIs(const QString &text)
 {
     return PasswordLock::matches(text, storedHash());
-}
-
-template <typename T>
-T *child(QWidget *panel, const QString &name = {})
-{
-    auto *found = panel->findChild<T *>(name);
-    if (!found)
-        qFatal("%s has no %s", panel->metaObject()->className(), qPrintable(name));
-    return found;
 }
 
 QLineEdit *field(QWidget *panel, const QString &name)
