@@ -7,6 +7,7 @@
 #include "exchange/CsvImporter.h"
 #include "exchange/HomeBankImporter.h"
 #include "exchange/ImportMapping.h"
+#include "exchange/LedgerImport.h"
 #include "ledger/KController.h"
 #include "settings/Settings.h"
 
@@ -84,6 +85,34 @@ void BM_ParseHomeBankThirtyYears(benchmark::State &state)
     state.counters["MB"] = double(file.size()) / 1e6;
 }
 BENCHMARK(BM_ParseHomeBankThirtyYears)->Unit(benchmark::kMillisecond);
+
+// The whole import of that file into an empty data folder, as File > Import
+// runs it: read, put onto the lists, checked for duplicates, booked as one
+// change, and 360 month files written.
+void BM_ImportHomeBankIntoEmptyFolder(benchmark::State &state)
+{
+    static const QByteArray file = homeBankFile();
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto dir = std::make_unique<QTemporaryDir>();
+        Settings().setDataPath(dir->path());
+        auto ledger = std::make_unique<KController>();
+        ledger->readListPreference();
+        state.ResumeTiming();
+        LedgerImport import(*ledger, HomeBankImporter().parse(file),
+                            ImportMapping(ledger->categoryList(), ledger->paywayList()));
+        QString error;
+        if (!import.book(&error))
+            qFatal("the import was not booked: %s", qPrintable(error));
+        state.PauseTiming();
+        state.counters["months"] = double(import.report().months.size());
+        state.counters["entries"] = double(import.report().booked);
+        ledger.reset();
+        dir.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_ImportHomeBankIntoEmptyFolder)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 PaymentArray thirtyYears()
 {

@@ -327,6 +327,22 @@
             <source>&amp;Edit</source>
             <translation>&amp;Edit</translation>
         </message>
+        <message>
+            <source>&amp;Import…</source>
+            <translation>&amp;Import…</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Import</translation>
+        </message>
+        <message>
+            <source>Statements and account books (*.csv *.txt *.qif *.ofx *.qfx *.xhb)</source>
+            <translation>Statements and account books (*.csv *.txt *.qif *.ofx *.qfx *.xhb)</translation>
+        </message>
+        <message>
+            <source>All files (*)</source>
+            <translation>All files (*)</translation>
+        </message>
     </context>
     <context>
         <name>KController</name>
@@ -496,6 +512,25 @@ The month stays as it is here, with your changes, and they replace the damaged f
             <source>The data folder was changed on another computer.</source>
             <translation>The data folder was changed on another computer.</translation>
         </message>
+        <message>
+            <source>The file of %1/%2 could not be read, so nothing was imported.</source>
+            <translation>The file of %1/%2 could not be read, so nothing was imported.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Import of %n Entries</source>
+            <translation>
+                <numerusform>Import of %n Entry</numerusform>
+                <numerusform>Import of %n Entries</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>The import was cancelled; nothing was booked.</source>
+            <translation>The import was cancelled; nothing was booked.</translation>
+        </message>
+        <message>
+            <source>The import could not be recorded, so nothing was booked.</source>
+            <translation>The import could not be recorded, so nothing was booked.</translation>
+        </message>
     </context>
     <context>
         <name>ListEditorModel</name>
@@ -660,6 +695,50 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>Deletion of %1 Entries</source>
             <translation>Deletion of %1 Entries</translation>
+        </message>
+        <message>
+            <source>Export as &amp;CSV</source>
+            <translation>Export as &amp;CSV</translation>
+        </message>
+        <message>
+            <source>The &amp;Month Shown…</source>
+            <translation>The &amp;Month Shown…</translation>
+        </message>
+        <message>
+            <source>The &amp;Year…</source>
+            <translation>The &amp;Year…</translation>
+        </message>
+        <message>
+            <source>The &amp;Search Result…</source>
+            <translation>The &amp;Search Result…</translation>
+        </message>
+        <message>
+            <source>&amp;Everything…</source>
+            <translation>&amp;Everything…</translation>
+        </message>
+        <message>
+            <source>Export as CSV</source>
+            <translation>Export as CSV</translation>
+        </message>
+        <message>
+            <source>Nothing was exported: %1</source>
+            <translation>Nothing was exported: %1</translation>
+        </message>
+        <message>
+            <source>penwick-all</source>
+            <translation>penwick-all</translation>
+        </message>
+        <message>
+            <source>-search</source>
+            <translation>-search</translation>
+        </message>
+        <message>
+            <source>CSV files (*.csv)</source>
+            <translation>CSV files (*.csv)</translation>
+        </message>
+        <message>
+            <source>The CSV file could not be written to %1: %2</source>
+            <translation>The CSV file could not be written to %1: %2</translation>
         </message>
     </context>
     <context>
@@ -971,6 +1050,10 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>'%1' is not a month (YYYYMM), a year (YYYY) or all</source>
             <translation>'%1' is not a month (YYYYMM), a year (YYYY) or all</translation>
+        </message>
+        <message>
+            <source>&apos;%1&apos; is not csv, qif, ofx or xhb</source>
+            <translation>&apos;%1&apos; is not csv, qif, ofx or xhb</translation>
         </message>
     </context>
     <context>
@@ -1691,6 +1774,269 @@ Show Details… tells more of each.</translation>
         <message>
             <source>This is not a QIF file: it has no !Type line.</source>
             <translation>This is not a QIF file: it has no !Type line.</translation>
+        </message>
+    </context>
+    <context>
+        <name>LedgerImport</name>
+        <message numerus="yes">
+            <source>%1/%2: %n</source>
+            <translation>
+                <numerusform>%1/%2: %n</numerusform>
+                <numerusform>%1/%2: %n</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n entries into %1 months</source>
+            <translation>
+                <numerusform>%n entry into %1 months</numerusform>
+                <numerusform>%n entries into %1 months</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>Skipped as booked already: %n</source>
+            <translation>
+                <numerusform>Skipped as booked already: %n</numerusform>
+                <numerusform>Skipped as booked already: %n</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>Left out: %n</source>
+            <translation>
+                <numerusform>Left out: %n</numerusform>
+                <numerusform>Left out: %n</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>Rows that could not be read: %n</source>
+            <translation>
+                <numerusform>Rows that could not be read: %n</numerusform>
+                <numerusform>Rows that could not be read: %n</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>New category: %1</source>
+            <translation>New category: %1</translation>
+        </message>
+        <message>
+            <source>Categories without a match (booked as %1): %2</source>
+            <translation>Categories without a match (booked as %1): %2</translation>
+        </message>
+        <message>
+            <source>The categories were changed meanwhile; start the import again.</source>
+            <translation>The categories were changed meanwhile; start the import again.</translation>
+        </message>
+        <message>
+            <source>No entry is ticked for booking.</source>
+            <translation>No entry is ticked for booking.</translation>
+        </message>
+        <message>
+            <source>&apos;%1&apos; is not of the form SOURCE=CATEGORY.</source>
+            <translation>&apos;%1&apos; is not of the form SOURCE=CATEGORY.</translation>
+        </message>
+        <message>
+            <source>There is no category &apos;%1&apos;.</source>
+            <translation>There is no category &apos;%1&apos;.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ImportPreviewModel</name>
+        <message>
+            <source>In the file: %1</source>
+            <translation>In the file: %1</translation>
+        </message>
+        <message>
+            <source>Booked already</source>
+            <translation>Booked already</translation>
+        </message>
+        <message>
+            <source>No category &quot;%1&quot;</source>
+            <translation>No category &quot;%1&quot;</translation>
+        </message>
+        <message>
+            <source>Book</source>
+            <translation>Book</translation>
+        </message>
+        <message>
+            <source>Line</source>
+            <translation>Line</translation>
+        </message>
+        <message>
+            <source>Date</source>
+            <translation>Date</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>Details</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>Amount</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>Payway</translation>
+        </message>
+        <message>
+            <source>Note</source>
+            <translation>Note</translation>
+        </message>
+    </context>
+    <context>
+        <name>ImportDialog</name>
+        <message>
+            <source>Date</source>
+            <translation>Date</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>Amount</translation>
+        </message>
+        <message>
+            <source>Money out</source>
+            <translation>Money out</translation>
+        </message>
+        <message>
+            <source>Money in</source>
+            <translation>Money in</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>Details</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>Payway</translation>
+        </message>
+        <message>
+            <source>(not imported)</source>
+            <translation>(not imported)</translation>
+        </message>
+        <message>
+            <source>Day, month, year</source>
+            <translation>Day, month, year</translation>
+        </message>
+        <message>
+            <source>Month, day, year</source>
+            <translation>Month, day, year</translation>
+        </message>
+        <message>
+            <source>Year, month, day</source>
+            <translation>Year, month, day</translation>
+        </message>
+        <message>
+            <source>Import %1</source>
+            <translation>Import %1</translation>
+        </message>
+        <message>
+            <source>CSV</source>
+            <translation>CSV</translation>
+        </message>
+        <message>
+            <source>QIF</source>
+            <translation>QIF</translation>
+        </message>
+        <message>
+            <source>OFX or QFX</source>
+            <translation>OFX or QFX</translation>
+        </message>
+        <message>
+            <source>HomeBank</source>
+            <translation>HomeBank</translation>
+        </message>
+        <message>
+            <source>&amp;Format:</source>
+            <translation>&amp;Format:</translation>
+        </message>
+        <message>
+            <source>A new category:</source>
+            <translation>A new category:</translation>
+        </message>
+        <message>
+            <source>Imported</source>
+            <translation>Imported</translation>
+        </message>
+        <message>
+            <source>Categories &amp;without a match:</source>
+            <translation>Categories &amp;without a match:</translation>
+        </message>
+        <message>
+            <source>Rows that could not be read (never booked):</source>
+            <translation>Rows that could not be read (never booked):</translation>
+        </message>
+        <message>
+            <source>&amp;Import</source>
+            <translation>&amp;Import</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>Import</translation>
+        </message>
+        <message>
+            <source>Nothing was imported.</source>
+            <translation>Nothing was imported.</translation>
+        </message>
+        <message>
+            <source>The import is booked.</source>
+            <translation>The import is booked.</translation>
+        </message>
+        <message>
+            <source>Japanese (Shift_JIS, CP932)</source>
+            <translation>Japanese (Shift_JIS, CP932)</translation>
+        </message>
+        <message>
+            <source>Japanese (EUC-JP)</source>
+            <translation>Japanese (EUC-JP)</translation>
+        </message>
+        <message>
+            <source>Western (Windows-1252)</source>
+            <translation>Western (Windows-1252)</translation>
+        </message>
+        <message>
+            <source>&amp;Encoding:</source>
+            <translation>&amp;Encoding:</translation>
+        </message>
+        <message>
+            <source>&amp;Dates:</source>
+            <translation>&amp;Dates:</translation>
+        </message>
+        <message>
+            <source>First row &amp;names the columns</source>
+            <translation>First row &amp;names the columns</translation>
+        </message>
+        <message>
+            <source>Column %1</source>
+            <translation>Column %1</translation>
+        </message>
+        <message>
+            <source>%1 is empty or cannot be read.</source>
+            <translation>%1 is empty or cannot be read.</translation>
+        </message>
+        <message>
+            <source>Line %1: %2</source>
+            <translation>Line %1: %2</translation>
+        </message>
+        <message>
+            <source>The dates of this file can be read more than one way.</source>
+            <translation>The dates of this file can be read more than one way.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Booking %n entries…</source>
+            <translation>
+                <numerusform>Booking %n entry…</numerusform>
+                <numerusform>Booking %n entries…</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>Cancel</translation>
         </message>
     </context>
 </TS>

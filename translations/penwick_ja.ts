@@ -326,6 +326,22 @@
             <source>&amp;Edit</source>
             <translation>編集(&amp;E)</translation>
         </message>
+        <message>
+            <source>&amp;Import…</source>
+            <translation>取り込み…(&amp;I)</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>取り込み</translation>
+        </message>
+        <message>
+            <source>Statements and account books (*.csv *.txt *.qif *.ofx *.qfx *.xhb)</source>
+            <translation>明細と家計簿 (*.csv *.txt *.qif *.ofx *.qfx *.xhb)</translation>
+        </message>
+        <message>
+            <source>All files (*)</source>
+            <translation>すべてのファイル (*)</translation>
+        </message>
     </context>
     <context>
         <name>KController</name>
@@ -495,6 +511,24 @@ The month stays as it is here, with your changes, and they replace the damaged f
             <source>The data folder was changed on another computer.</source>
             <translation>データフォルダが別のコンピュータで変更されました。</translation>
         </message>
+        <message>
+            <source>The file of %1/%2 could not be read, so nothing was imported.</source>
+            <translation>%2年%1月のファイルを読み込めないため、何も取り込んでいません。</translation>
+        </message>
+        <message numerus="yes">
+            <source>Import of %n Entries</source>
+            <translation>
+                <numerusform>%n 件の取り込み</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>The import was cancelled; nothing was booked.</source>
+            <translation>取り込みを中止しました。何も記帳していません。</translation>
+        </message>
+        <message>
+            <source>The import could not be recorded, so nothing was booked.</source>
+            <translation>取り込みを記録できなかったため、何も記帳していません。</translation>
+        </message>
     </context>
     <context>
         <name>ListEditorModel</name>
@@ -658,6 +692,50 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>Deletion of %1 Entries</source>
             <translation>%1件の記帳の削除</translation>
+        </message>
+        <message>
+            <source>Export as &amp;CSV</source>
+            <translation>CSVとして書き出す(&amp;C)</translation>
+        </message>
+        <message>
+            <source>The &amp;Month Shown…</source>
+            <translation>表示中の月…(&amp;M)</translation>
+        </message>
+        <message>
+            <source>The &amp;Year…</source>
+            <translation>その年…(&amp;Y)</translation>
+        </message>
+        <message>
+            <source>The &amp;Search Result…</source>
+            <translation>検索結果…(&amp;S)</translation>
+        </message>
+        <message>
+            <source>&amp;Everything…</source>
+            <translation>すべて…(&amp;E)</translation>
+        </message>
+        <message>
+            <source>Export as CSV</source>
+            <translation>CSVとして書き出す</translation>
+        </message>
+        <message>
+            <source>Nothing was exported: %1</source>
+            <translation>何も書き出していません: %1</translation>
+        </message>
+        <message>
+            <source>penwick-all</source>
+            <translation>penwick-all</translation>
+        </message>
+        <message>
+            <source>-search</source>
+            <translation>-検索結果</translation>
+        </message>
+        <message>
+            <source>CSV files (*.csv)</source>
+            <translation>CSV ファイル (*.csv)</translation>
+        </message>
+        <message>
+            <source>The CSV file could not be written to %1: %2</source>
+            <translation>CSV ファイルを %1 に書き込めませんでした: %2</translation>
         </message>
     </context>
     <context>
@@ -969,6 +1047,10 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>'%1' is not a month (YYYYMM), a year (YYYY) or all</source>
             <translation>「%1」は月 (YYYYMM)、年 (YYYY)、all のどれでもありません</translation>
+        </message>
+        <message>
+            <source>&apos;%1&apos; is not csv, qif, ofx or xhb</source>
+            <translation>&apos;%1&apos; は csv、qif、ofx、xhb のいずれでもありません</translation>
         </message>
     </context>
     <context>
@@ -1689,6 +1771,263 @@ Show Details… tells more of each.</source>
         <message>
             <source>This is not a QIF file: it has no !Type line.</source>
             <translation>QIF のファイルではありません: !Type の行がありません。</translation>
+        </message>
+    </context>
+    <context>
+        <name>LedgerImport</name>
+        <message numerus="yes">
+            <source>%1/%2: %n</source>
+            <translation>
+                <numerusform>%2年%1月: %n 件</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n entries into %1 months</source>
+            <translation>
+                <numerusform>%n 件を %1 か月に記帳</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>Skipped as booked already: %n</source>
+            <translation>
+                <numerusform>記帳済みのため除外: %n 件</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>Left out: %n</source>
+            <translation>
+                <numerusform>除外したもの: %n 件</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>Rows that could not be read: %n</source>
+            <translation>
+                <numerusform>読み込めなかった行: %n 行</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>New category: %1</source>
+            <translation>新しい分類: %1</translation>
+        </message>
+        <message>
+            <source>Categories without a match (booked as %1): %2</source>
+            <translation>一致しなかった分類（%1 として記帳）: %2</translation>
+        </message>
+        <message>
+            <source>The categories were changed meanwhile; start the import again.</source>
+            <translation>その間に分類が変更されました。取り込みをやり直してください。</translation>
+        </message>
+        <message>
+            <source>No entry is ticked for booking.</source>
+            <translation>記帳する項目にチェックがありません。</translation>
+        </message>
+        <message>
+            <source>&apos;%1&apos; is not of the form SOURCE=CATEGORY.</source>
+            <translation>&apos;%1&apos; は SOURCE=CATEGORY の形ではありません。</translation>
+        </message>
+        <message>
+            <source>There is no category &apos;%1&apos;.</source>
+            <translation>分類 &apos;%1&apos; はありません。</translation>
+        </message>
+    </context>
+    <context>
+        <name>ImportPreviewModel</name>
+        <message>
+            <source>In the file: %1</source>
+            <translation>ファイルでは: %1</translation>
+        </message>
+        <message>
+            <source>Booked already</source>
+            <translation>記帳済み</translation>
+        </message>
+        <message>
+            <source>No category &quot;%1&quot;</source>
+            <translation>分類「%1」がありません</translation>
+        </message>
+        <message>
+            <source>Book</source>
+            <translation>記帳</translation>
+        </message>
+        <message>
+            <source>Line</source>
+            <translation>行</translation>
+        </message>
+        <message>
+            <source>Date</source>
+            <translation>日付</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>内容</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>金額</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>支払い方法</translation>
+        </message>
+        <message>
+            <source>Note</source>
+            <translation>備考</translation>
+        </message>
+    </context>
+    <context>
+        <name>ImportDialog</name>
+        <message>
+            <source>Date</source>
+            <translation>日付</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>金額</translation>
+        </message>
+        <message>
+            <source>Money out</source>
+            <translation>出金</translation>
+        </message>
+        <message>
+            <source>Money in</source>
+            <translation>入金</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>内容</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>支払い方法</translation>
+        </message>
+        <message>
+            <source>(not imported)</source>
+            <translation>（取り込まない）</translation>
+        </message>
+        <message>
+            <source>Day, month, year</source>
+            <translation>日・月・年</translation>
+        </message>
+        <message>
+            <source>Month, day, year</source>
+            <translation>月・日・年</translation>
+        </message>
+        <message>
+            <source>Year, month, day</source>
+            <translation>年・月・日</translation>
+        </message>
+        <message>
+            <source>Import %1</source>
+            <translation>%1 の取り込み</translation>
+        </message>
+        <message>
+            <source>CSV</source>
+            <translation>CSV</translation>
+        </message>
+        <message>
+            <source>QIF</source>
+            <translation>QIF</translation>
+        </message>
+        <message>
+            <source>OFX or QFX</source>
+            <translation>OFX または QFX</translation>
+        </message>
+        <message>
+            <source>HomeBank</source>
+            <translation>HomeBank</translation>
+        </message>
+        <message>
+            <source>&amp;Format:</source>
+            <translation>形式(&amp;F):</translation>
+        </message>
+        <message>
+            <source>A new category:</source>
+            <translation>新しい分類:</translation>
+        </message>
+        <message>
+            <source>Imported</source>
+            <translation>取り込み分</translation>
+        </message>
+        <message>
+            <source>Categories &amp;without a match:</source>
+            <translation>一致しない分類(&amp;W):</translation>
+        </message>
+        <message>
+            <source>Rows that could not be read (never booked):</source>
+            <translation>読み込めなかった行（記帳しません）:</translation>
+        </message>
+        <message>
+            <source>&amp;Import</source>
+            <translation>取り込む(&amp;I)</translation>
+        </message>
+        <message>
+            <source>Import</source>
+            <translation>取り込み</translation>
+        </message>
+        <message>
+            <source>Nothing was imported.</source>
+            <translation>何も取り込んでいません。</translation>
+        </message>
+        <message>
+            <source>The import is booked.</source>
+            <translation>取り込みを記帳しました。</translation>
+        </message>
+        <message>
+            <source>Japanese (Shift_JIS, CP932)</source>
+            <translation>日本語 (Shift_JIS, CP932)</translation>
+        </message>
+        <message>
+            <source>Japanese (EUC-JP)</source>
+            <translation>日本語 (EUC-JP)</translation>
+        </message>
+        <message>
+            <source>Western (Windows-1252)</source>
+            <translation>西欧 (Windows-1252)</translation>
+        </message>
+        <message>
+            <source>&amp;Encoding:</source>
+            <translation>文字コード(&amp;E):</translation>
+        </message>
+        <message>
+            <source>&amp;Dates:</source>
+            <translation>日付の順(&amp;D):</translation>
+        </message>
+        <message>
+            <source>First row &amp;names the columns</source>
+            <translation>1 行目は列の名前(&amp;N)</translation>
+        </message>
+        <message>
+            <source>Column %1</source>
+            <translation>%1 列目</translation>
+        </message>
+        <message>
+            <source>%1 is empty or cannot be read.</source>
+            <translation>%1 は空か、読み込めません。</translation>
+        </message>
+        <message>
+            <source>Line %1: %2</source>
+            <translation>%1 行目: %2</translation>
+        </message>
+        <message>
+            <source>The dates of this file can be read more than one way.</source>
+            <translation>このファイルの日付は複数の読み方ができます。</translation>
+        </message>
+        <message numerus="yes">
+            <source>Booking %n entries…</source>
+            <translation>
+                <numerusform>%n 件を記帳しています…</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Cancel</source>
+            <translation>キャンセル</translation>
         </message>
     </context>
 </TS>

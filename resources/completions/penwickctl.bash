@@ -16,7 +16,22 @@ _penwickctl()
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)); then
-        COMPREPLY=($(compgen -W "categories payways show book list search sort export dump --help" -- "$cur"))
+        COMPREPLY=($(compgen -W "categories payways show book list search sort export import dump --help" -- "$cur"))
+        return
+    fi
+
+    # An import's --category names the file's category first: nothing to offer.
+    if [[ ${COMP_WORDS[1]} == import ]]; then
+        case $prev in
+        --category) return ;;
+        --format) COMPREPLY=($(compgen -W "csv qif ofx xhb" -- "$cur")); return ;;
+        esac
+        if [[ $cur != -* ]]; then
+            compopt -o filenames 2>/dev/null
+            COMPREPLY=($(compgen -f -- "$cur"))
+            return
+        fi
+        COMPREPLY=($(compgen -W "--format --dry-run --category --json --help" -- "$cur"))
         return
     fi
 

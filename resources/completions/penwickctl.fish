@@ -1,7 +1,7 @@
 # Fish completion for penwickctl. Category and payway names are asked of the
 # running program.
 
-set -l commands categories payways show book list search sort export dump
+set -l commands categories payways show book list search sort export import dump
 
 complete -c penwickctl -f
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a categories -d "Print the category names"
@@ -12,10 +12,11 @@ complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a list -d
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a search -d "Search a month"
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a sort -d "Sort a month's entries"
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a export -d "Write entries as CSV"
+complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a import -d "Book the entries of a file"
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a dump -d "Print an archive or a month file"
 complete -c penwickctl -s h -l help -d "Show the usage"
 
-complete -c penwickctl -n "__fish_seen_subcommand_from categories payways list book search sort" -l json -d "Print JSON"
+complete -c penwickctl -n "__fish_seen_subcommand_from categories payways list book search sort import" -l json -d "Print JSON"
 complete -c penwickctl -n "__fish_seen_subcommand_from show" -a "input list graph balance"
 complete -c penwickctl -n "__fish_seen_subcommand_from book search" -l category -x -a "(penwickctl categories 2>/dev/null)" -d "Category"
 complete -c penwickctl -n "__fish_seen_subcommand_from book search" -l payway -x -a "(penwickctl payways 2>/dev/null)" -d "Payway"
@@ -35,3 +36,7 @@ complete -c penwickctl -n "__fish_seen_subcommand_from dump" -l entries -d "Prin
 complete -c penwickctl -n "__fish_seen_subcommand_from dump" -F
 complete -c penwickctl -n "__fish_seen_subcommand_from export" -a all -d "The whole data folder"
 complete -c penwickctl -n "__fish_seen_subcommand_from export" -l out -r -F -d "Write to a file"
+complete -c penwickctl -n "__fish_seen_subcommand_from import" -F
+complete -c penwickctl -n "__fish_seen_subcommand_from import" -l format -x -a "csv qif ofx xhb" -d "The file format"
+complete -c penwickctl -n "__fish_seen_subcommand_from import" -l dry-run -d "Print what would be booked"
+complete -c penwickctl -n "__fish_seen_subcommand_from import" -l category -x -d "SRC=DST: the file's category as ours"

@@ -15,6 +15,7 @@
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -213,6 +214,7 @@ QList<AppCommands::Command> AppCommands::commands()
         {u"search"_s, tr("Search a month and print what it finds."), &search},
         {u"sort"_s, tr("Sort a month's selected entries and print them."), &sort},
         {u"export"_s, tr("Write the entries of a month, a year or all as CSV."), &exportCsv},
+        {u"import"_s, tr("Book the entries of a CSV, QIF, OFX or HomeBank file."), &importFile},
     };
 }
 
@@ -494,5 +496,104 @@ int AppCommands::exportCsv(const QStringList &arguments)
         CommandLine::printError(u"%1: %2: %3"_s.arg(command, parser.value(out), file.errorString()));
         return CommandLine::Failure;
     }
+    return CommandLine::Success;
+}
+
+int AppCommands::importFile(const QStringList &arguments)
+{
+    const QString command = u"import"_s;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        tr("Books the entries of a file in the running program, as one change. Categories and "
+           "payment modes go to ours by name; rows booked already in their month are skipped; "
+           "rows that cannot be read are listed with their line numbers."));
+    parser.addPositionalArgument(u"FILE"_s, tr("The file to import."));
+    const QCommandLineOption format(u"format"_s, tr("csv, qif, ofx or xhb (else by the file's name "
+                                                   "or content)."),
+                                    u"FORMAT"_s);
+    const QCommandLineOption dryRun(u"dry-run"_s, tr("Print what would be booked; change nothing."));
+    const QCommandLineOption category(u"category"_s, tr("Book the file's category SRC as our DST "
+                                                       "(repeatable)."),
+                                      u"SRC=DST"_s);
+    parser.addOptions({format, dryRun, category, jsonOption});
+    if (const auto status = CommandLine::parse(parser, command, arguments))
+        return *status;
+    if (parser.positionalArguments().size() != 1)
+        return CommandLine::usageError(command, tr("give exactly one file"));
+    static const QStringList formats{u"csv"_s, u"qif"_s, u"ofx"_s, u"xhb"_s};
+    if (parser.isSet(format) && !formats.contains(parser.value(format)))
+        return CommandLine::usageError(command, tr("--format must be one of %1").arg(formats.join(u", "_s)));
+    for (const QString &choice : parser.values(category)) {
+        if (choice.indexOf(u'=') <= 0)
+            return CommandLine::usageError(command, tr("--category: '%1' is not SRC=DST").arg(choice));
+    }
+
+    // The program reads the file itself, from wherever it was started.
+    const QString path = QFileInfo(parser.positionalArguments().constFirst()).absoluteFilePath();
+    QVariantMap options{{u"dryRun"_s, parser.isSet(dryRun)}};
+    if (parser.isSet(format))
+        options.insert(u"format"_s, parser.value(format));
+    if (parser.isSet(category))
+        options.insert(u"categories"_s, parser.values(category));
+    const auto reply = callApplication(command, u"ImportFile"_s, {path, options});
+    if (!reply || reply->isEmpty())
+        return CommandLine::Failure;
+    const QByteArray json = reply->constFirst().toString().toUtf8();
+    if (parser.isSet(jsonOption)) {
+        CommandLine::printOut(QJsonDocument::fromJson(json).toJson(QJsonDocument::Indented));
+        return CommandLine::Success;
+    }
+    const QJsonObject report = QJsonDocument::fromJson(json).object();
+    QByteArray text;
+    // What would be booked, then what would not and why; tabs between fields
+    // as the list command prints them.
+    for (const QJsonValue &value : report.value(u"entries"_s).toArray()) {
+        const QJsonObject entry = value.toObject();
+        const QString status = entry.value(u"booked"_s).toBool() ? tr("book")
+            : entry.value(u"duplicate"_s).toBool()               ? tr("booked already")
+                                                                 : tr("left out");
+        text += u"%1\t%2\t%3\t%4\t%5\t%6\t%7\n"_s
+                    .arg(tr("line %1").arg(entry.value(u"line"_s).toInt()), status,
+                         entry.value(u"date"_s).toString(),
+                         CommandLine::escaped(entry.value(u"category"_s).toString()),
+                         CommandLine::escaped(entry.value(u"details"_s).toString()),
+                         QString::number(entry.value(u"amount"_s).toDouble(), 'g', 9),
+                         CommandLine::escaped(entry.value(u"payway"_s).toString()))
+                    .toUtf8();
+    }
+    for (const QJsonValue &value : report.value(u"problems"_s).toArray()) {
+        const QJsonObject problem = value.toObject();
+        text += u"%1\t%2\n"_s.arg(tr("line %1").arg(problem.value(u"line"_s).toInt()),
+                                  CommandLine::escaped(problem.value(u"reason"_s).toString()))
+                    .toUtf8();
+    }
+    QStringList months;
+    const QJsonObject perMonth = report.value(u"months"_s).toObject();
+    for (auto month = perMonth.constBegin(); month != perMonth.constEnd(); ++month)
+        months.append(u"%1: %2"_s.arg(month.key()).arg(month.value().toInt()));
+    const QJsonObject skipped = report.value(u"skipped"_s).toObject();
+    const int booked = report.value(u"booked"_s).toInt();
+    text += (parser.isSet(dryRun) ? tr("Would book %n entries", nullptr, booked)
+                                  : tr("Booked %n entries", nullptr, booked))
+                .toUtf8();
+    if (!months.isEmpty())
+        text += " (" + months.join(u", "_s).toUtf8() + ')';
+    text += '\n';
+    text += tr("Skipped: %1 booked already, %2 unreadable rows")
+                .arg(skipped.value(u"duplicates"_s).toInt())
+                .arg(skipped.value(u"unreadable"_s).toInt())
+                .toUtf8()
+        + '\n';
+    const QJsonArray unmatched = report.value(u"unmatchedCategories"_s).toArray();
+    if (!unmatched.isEmpty()) {
+        QStringList names;
+        for (const QJsonValue &name : unmatched)
+            names.append(name.toString());
+        text += tr("Categories without a match, booked as %1: %2")
+                    .arg(report.value(u"unmatchedTo"_s).toString(), names.join(u", "_s))
+                    .toUtf8()
+            + '\n';
+    }
+    CommandLine::printOut(text);
     return CommandLine::Success;
 }

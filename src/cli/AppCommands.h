@@ -41,4 +41,5 @@ private:
     static int search(const QStringList &arguments);
     static int sort(const QStringList &arguments);
     static int exportCsv(const QStringList &arguments);
+    static int importFile(const QStringList &arguments);
 };

@@ -3,11 +3,17 @@
 #include "ScriptService.h"
 
 #include "exchange/CsvExport.h"
+#include "exchange/LedgerImport.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptHost.h"
 #include "script/ScriptNames.h"
+
+#include <QFile>
+#include <QJsonDocument>
+
+using namespace Qt::Literals::StringLiterals;
 
 ScriptApplication::ScriptApplication(ScriptService *service)
     : QObject(service)
@@ -135,4 +141,47 @@ QString ScriptApplication::ExportCsv(const QString &scope)
     if (!text)
         sendErrorReply(ScriptNames::UnreadableError, error);
     return text ? QString::fromUtf8(*text) : QString();
+}
+
+QString ScriptApplication::ImportFile(const QString &path, const QVariantMap &options)
+{
+    KController *open = ledger();
+    if (!open)
+        return {};
+    const QVariantMap plain = plainArguments(options);
+    std::optional<Importer::Format> format;
+    if (plain.contains(u"format"_s)) {
+        format = Importer::formatNamed(plain.value(u"format"_s).toString());
+        if (!format) {
+            sendErrorReply(ScriptNames::InvalidArgsError,
+                           tr("'%1' is not csv, qif, ofx or xhb").arg(plain.value(u"format"_s).toString()));
+            return {};
+        }
+    }
+    QString error;
+    const auto mapping = LedgerImport::mappingWith(*open, plain.value(u"categories"_s).toStringList(), &error);
+    if (!mapping) {
+        sendErrorReply(ScriptNames::InvalidArgsError, error);
+        return {};
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        sendErrorReply(ScriptNames::UnreadableError, u"%1: %2"_s.arg(path, file.errorString()));
+        return {};
+    }
+    const QByteArray bytes = file.readAll();
+    const auto importer = Importer::forFormat(format.value_or(Importer::detect(path, bytes)));
+    ImportResult imported = importer->parse(bytes);
+    if (imported.failed()) {
+        sendErrorReply(ScriptNames::UnreadableError, imported.error);
+        return {};
+    }
+    LedgerImport import(*open, std::move(imported), *mapping);
+    const bool dryRun = plain.value(u"dryRun"_s).toBool();
+    if (!dryRun && import.report().booked > 0 && !import.book(&error)) {
+        sendErrorReply(ScriptNames::BookingFailedError, error);
+        return {};
+    }
+    return QString::fromUtf8(
+        QJsonDocument(import.toJson(import.report(), dryRun)).toJson(QJsonDocument::Compact));
 }

@@ -37,6 +37,7 @@ public slots:
     QDBusObjectPath DataListWithName(const QString &name);
     QDBusObjectPath DataListAtIndex(int index);
     QString ExportCsv(const QString &scope);
+    QString ImportFile(const QString &path, const QVariantMap &options);
 
 private:
     // The ledger; nothing, after replying with the error, while the password

@@ -28,6 +28,8 @@ bash_completes "graph" penwickctl show gr
 bash_completes "--ascend" penwickctl sort 200605 --as
 bash_completes "--entries" penwickctl dump --en
 bash_completes "--out" penwickctl export 2006 --o
+bash_completes "--dry-run" penwickctl import bank.qif --dr
+bash_completes "xhb" penwickctl import --format x
 
 # Fish: complete -C answers what Tab offers, with descriptions.
 fish_got=$(fish --no-config -c "

@@ -1320,3 +1320,81 @@ QString KController::describeEntry(const PaymentDataPtr &record) const
                        amountText(record->amount()), m_paywayList.value(record->payway())}
         .join(QStringLiteral(", "));
 }
+
+bool KController::bookImport(const PaymentArray &records, QString *error,
+                             const ImportProgress &progress)
+{
+    if (!m_listFileProblem.isEmpty()) {
+        setError(error, tr("Nothing can be booked until the list file is mended. %1")
+                            .arg(m_listFileProblem));
+        return false;
+    }
+    if (m_conversionRunning) {
+        setError(error, tr("The category and payway lists are being changed; try again when that "
+                           "is done."));
+        return false;
+    }
+    const QMap<int, PaymentArray> groups = assortDataArray(records);
+    QList<std::shared_ptr<MonthDataList>> months;
+    months.reserve(groups.size());
+    for (auto group = groups.cbegin(); group != groups.cend(); ++group) {
+        const int year = group.key() / 100;
+        const int month = group.key() % 100;
+        const auto list = monthListForYear(year, month);
+        if (!list) {
+            setError(error, tr("There is no month %1 in year %2.").arg(month).arg(year));
+            return false;
+        }
+        if (list->isReadOnly()) {
+            setError(error, tr("The file of %1/%2 could not be read, so nothing was imported.")
+                                .arg(month)
+                                .arg(year));
+            return false;
+        }
+        months.append(list);
+    }
+
+    const ChangeScope scope(this, tr("Import of %n Entries", nullptr, int(records.size())));
+    // While the entries are in memory only, nothing may write a month or
+    // record it on its own: that would put part of the import on the disk.
+    // Whoever shows progress may let the event loop run meanwhile.
+    m_saveTimer.stop();
+    m_conversionRunning = true;
+    QList<bool> wasEdited;
+    QList<MonthChange> changes;
+    changes.reserve(months.size());
+    const int total = int(months.size());
+    bool cancelled = false;
+    int added = 0;
+    for (; added < total && !cancelled; ++added) {
+        MonthDataList *month = months.at(added).get();
+        const int key = cacheKey(*month);
+        wasEdited.append(month->isEdited());
+        QByteArray before = m_current.contains(key) ? m_current.value(key) : contentAsLoaded(*month);
+        month->addData(groups.value(key));
+        changes.append({month->year(), month->month(), std::move(before), MonthFile::encode(*month)});
+        cancelled = progress && !progress(added + 1, total);
+    }
+    m_conversionRunning = false;
+    // The moment of booking.
+    if (cancelled || !journal(changes)) {
+        m_conversionRunning = true;
+        for (int i = 0; i < added; ++i) {
+            MonthDataList *month = months.at(i).get();
+            month->deleteData(groups.value(cacheKey(*month)));
+            month->setIsEdited(wasEdited.at(i));
+        }
+        m_conversionRunning = false;
+        setError(error, cancelled ? tr("The import was cancelled; nothing was booked.")
+                                  : tr("The import could not be recorded, so nothing was booked."));
+        return false;
+    }
+    for (const MonthChange &change : std::as_const(changes))
+        m_current.insert(cacheKey(change.year, change.month), change.after);
+    if (m_recording)
+        m_change.months += changes;
+    // Safe in the journal: a month that cannot be written now stays edited
+    // and is tried again like any other.
+    saveAllEditedData();
+    return true;
+}

@@ -210,6 +210,20 @@ public:
     // the changes recorded so far expire.
     void watchSharedFolder();
 
+    // Books the entries of an imported file as one change, whole or not at
+    // all: they are added to their months in memory, then every month touched
+    // goes into ONE record of the change journal (the moment the import is
+    // booked, which a restart replays), and then the month files are written.
+    // Killed before that record is whole, the folder is as it was; after it,
+    // wholly imported. One step of the undo history, labelled by its count.
+    // Refused with nothing changed, the reason in error, while the list file
+    // cannot be read, the lists are being renumbered, or a month touched
+    // cannot be read. `progress` is told of each month added before the
+    // record is written; answering false cancels, and nothing is kept.
+    using ImportProgress = std::function<bool(int done, int total)>;
+    bool bookImport(const PaymentArray &records, QString *error = nullptr,
+                    const ImportProgress &progress = {});
+
 signals:
     // Emitted before the edited months are written, so that a window can hand
     // over what it still holds (a memo being typed).

@@ -35,7 +35,7 @@ public:
     // Menu items whose tag is one of these act on the account book and stay
     // disabled until start-up has passed the password.
     enum MenuTag { InputWindowTag = 102, ListWindowTag = 404, GraphWindowTag = 405,
-                   BalanceWindowTag = 406 };
+                   BalanceWindowTag = 406, ImportTag = 407 };
 
     explicit KAppController(QObject *parent = nullptr);
     ~KAppController() override;
@@ -97,6 +97,13 @@ public:
     void showListOfYear(int year, int month);
     void showCategoryList(int category, int year, int month);
     void showPaywayList(int payway, int year, int month);
+    // The preview of importing the file, over the window; with no file, asks
+    // for one first.
+    void showImport(const QString &path, QWidget *window);
+
+protected:
+    // Files dropped on the input and list windows open the import preview.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 public slots:
     // Quit, as chosen from the menu: asks applicationShouldTerminate first,
@@ -121,6 +128,8 @@ private:
     void openStartWindows();
     void keepAWindowOpen();
     void showAbout();
+    // File > Import… and dropped files, for the windows that take entries.
+    void offerImport(QWidget *window, QMenuBar *bar);
 
     std::unique_ptr<KController> m_ledger;
     LedgerAlerts *m_alerts;
@@ -140,6 +149,7 @@ private:
     bool m_quitting = false;
 
     QAction *m_quitAction = nullptr;
+    QAction *m_importAction = nullptr;
     QAction *m_aboutAction = nullptr;
     QAction *m_preferencesAction = nullptr;
     QList<QAction *> m_windowActions;

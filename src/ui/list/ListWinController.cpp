@@ -1,5 +1,6 @@
 #include "list/ListWinController.h"
 
+#include "exchange/CsvExport.h"
 #include "ledger/KController.h"
 #include "list/DataListTableModel.h"
 #include "list/EntryTableView.h"
@@ -29,6 +30,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QSaveFile>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QStandardPaths>
@@ -271,6 +273,12 @@ void ListWinController::buildMenus()
     m_printAction = file->addAction(tr("&Print…"), this, &ListWinController::printPenwick);
     m_printAction->setShortcut(QKeySequence::Print);
     m_exportAction = file->addAction(tr("&Export as PDF…"), this, &ListWinController::exportAsPdf);
+    QMenu *csv = file->addMenu(tr("Export as &CSV"));
+    for (const auto &[text, scope] : {std::pair{tr("The &Month Shown…"), CsvScope::Month},
+                                      std::pair{tr("The &Year…"), CsvScope::Year},
+                                      std::pair{tr("The &Search Result…"), CsvScope::SearchResult},
+                                      std::pair{tr("&Everything…"), CsvScope::All}})
+        csv->addAction(text, this, [this, scope = scope] { exportAsCsv(scope); });
     file->addSeparator();
     QAction *close = file->addAction(tr("&Close"), this, &QWidget::close);
     close->setShortcut(QKeySequence::Close);
@@ -557,6 +565,51 @@ void ListWinController::exportAsPdf()
         if (!exportPdf(path))
             QMessageBox::warning(this, tr("Export as PDF"),
                                  tr("The PDF could not be written to %1.").arg(path));
+    });
+    dialog->open();
+}
+
+std::optional<QByteArray> ListWinController::csvText(CsvScope scope, QString *error) const
+{
+    switch (scope) {
+    case CsvScope::Month:
+        return CsvExport::ledgerText(*m_controller, {year(), month()}, error);
+    case CsvScope::Year:
+        return CsvExport::ledgerText(*m_controller, {year(), 0}, error);
+    case CsvScope::SearchResult:
+        return CsvExport::text(m_currentDataList ? m_currentDataList->extractedArray() : PaymentArray(),
+                               m_categoryList, m_paywayList);
+    case CsvScope::All:
+        break;
+    }
+    return CsvExport::ledgerText(*m_controller, {}, error);
+}
+
+void ListWinController::exportAsCsv(CsvScope scope)
+{
+    QString error;
+    const std::optional<QByteArray> text = csvText(scope, &error);
+    if (!text) {
+        QMessageBox::warning(this, tr("Export as CSV"), tr("Nothing was exported: %1").arg(error));
+        return;
+    }
+    const QDate shown(year(), month(), 1);
+    const QString name = scope == CsvScope::Year ? shown.toString(u"yyyy")
+        : scope == CsvScope::All                 ? tr("penwick-all")
+        : scope == CsvScope::SearchResult        ? shown.toString(u"yyyy-MM") + tr("-search")
+                                                 : shown.toString(u"yyyy-MM");
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    auto *dialog = new QFileDialog(this, tr("Export as CSV"), QDir(folder).filePath(name + QStringLiteral(".csv")),
+                                   tr("CSV files (*.csv)"));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("csv"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QFileDialog::fileSelected, this, [this, text = *text](const QString &path) {
+        // Whole or not at all: a failed export leaves an older file as it was.
+        QSaveFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+            QMessageBox::warning(this, tr("Export as CSV"),
+                                 tr("The CSV file could not be written to %1: %2").arg(path, file.errorString()));
     });
     dialog->open();
 }

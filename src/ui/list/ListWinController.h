@@ -5,6 +5,7 @@
 #include <QMainWindow>
 
 #include <memory>
+#include <optional>
 
 class DataList;
 class DataListTableModel;
@@ -65,6 +66,13 @@ public:
     // Renders the month as printed into a PDF file; false when it could not
     // be written.
     bool exportPdf(const QString &path);
+    // What File > Export as CSV writes.
+    enum class CsvScope { Month, Year, SearchResult, All };
+    // The entries of the scope as CSV, with the reason when a month of it
+    // cannot be read.
+    std::optional<QByteArray> csvText(CsvScope scope, QString *error = nullptr) const;
+    // Asks for a file name, then writes the scope's entries as CSV.
+    void exportAsCsv(CsvScope scope);
 
 public slots:
     // Builds the search keys from the panel, applies them and redraws.

@@ -1,0 +1,375 @@
+#include "ImportDialog.h"
+
+#include "ImportPreviewModel.h"
+
+#include "ledger/KController.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTableView>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using Role = CsvMapping::Role;
+
+// The roles a column can take, as the column boxes offer them.
+const QList<Role> kRoles{Role::Ignore, Role::Date,     Role::Amount, Role::Debit,
+                         Role::Credit, Role::Details, Role::Category, Role::Payway};
+
+QString roleName(Role role)
+{
+    switch (role) {
+    case Role::Date:
+        return ImportDialog::tr("Date");
+    case Role::Amount:
+        return ImportDialog::tr("Amount");
+    case Role::Debit:
+        return ImportDialog::tr("Money out");
+    case Role::Credit:
+        return ImportDialog::tr("Money in");
+    case Role::Details:
+        return ImportDialog::tr("Details");
+    case Role::Category:
+        return ImportDialog::tr("Category");
+    case Role::Payway:
+        return ImportDialog::tr("Payway");
+    case Role::Ignore:
+        break;
+    }
+    return ImportDialog::tr("(not imported)");
+}
+
+QString dateOrderName(DateOrder order)
+{
+    switch (order) {
+    case DateOrder::DayMonthYear:
+        return ImportDialog::tr("Day, month, year");
+    case DateOrder::MonthDayYear:
+        return ImportDialog::tr("Month, day, year");
+    case DateOrder::YearMonthDay:
+        break;
+    }
+    return ImportDialog::tr("Year, month, day");
+}
+
+} // namespace
+
+ImportDialog::ImportDialog(KController *ledger, const QString &path, QWidget *parent)
+    : QDialog(parent)
+    , m_ledger(ledger)
+    , m_path(path)
+{
+    setWindowTitle(tr("Import %1").arg(QFileInfo(path).fileName()));
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly))
+        m_bytes = file.readAll();
+    m_format = Importer::detect(path, m_bytes);
+
+    auto *layout = new QVBoxLayout(this);
+    auto *form = new QFormLayout;
+    m_formatBox = new QComboBox(this);
+    m_formatBox->addItem(tr("CSV"), int(Importer::Format::Csv));
+    m_formatBox->addItem(tr("QIF"), int(Importer::Format::Qif));
+    m_formatBox->addItem(tr("OFX or QFX"), int(Importer::Format::Ofx));
+    m_formatBox->addItem(tr("HomeBank"), int(Importer::Format::HomeBank));
+    m_formatBox->setCurrentIndex(m_formatBox->findData(int(m_format)));
+    form->addRow(tr("&Format:"), m_formatBox);
+
+    auto *unmatched = new QHBoxLayout;
+    m_unmatchedBox = new QComboBox(this);
+    m_unmatchedBox->setObjectName(u"unmatchedBox"_s);
+    const QStringList categories = m_ledger->categoryList();
+    for (qsizetype i = 0; i + 1 < categories.size(); ++i)
+        m_unmatchedBox->addItem(categories.at(i), int(i));
+    m_unmatchedBox->addItem(tr("A new category:"), -1);
+    m_newCategoryEdit = new QLineEdit(tr("Imported"), this);
+    m_newCategoryEdit->setEnabled(false);
+    unmatched->addWidget(m_unmatchedBox, 1);
+    unmatched->addWidget(m_newCategoryEdit, 1);
+    auto *unmatchedLabel = new QLabel(tr("Categories &without a match:"), this);
+    unmatchedLabel->setBuddy(m_unmatchedBox);
+    form->addRow(unmatchedLabel, unmatched);
+    layout->addLayout(form);
+
+    buildCsvControls();
+    layout->addWidget(m_csvControls);
+
+    auto *splitter = new QSplitter(Qt::Vertical, this);
+    m_table = new QTableView(splitter);
+    m_table->setObjectName(u"previewTable"_s);
+    m_model = new ImportPreviewModel(this);
+    m_table->setModel(m_model);
+    m_table->verticalHeader()->hide();
+    // One line a row, however long the details.
+    m_table->setWordWrap(false);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->horizontalHeader()->setSectionResizeMode(ImportPreviewModel::Details, QHeaderView::Stretch);
+    auto *problems = new QWidget(splitter);
+    auto *problemsLayout = new QVBoxLayout(problems);
+    problemsLayout->setContentsMargins(0, 0, 0, 0);
+    m_problemsLabel = new QLabel(tr("Rows that could not be read (never booked):"), problems);
+    m_problems = new QListWidget(problems);
+    m_problems->setObjectName(u"problemList"_s);
+    m_problemsLabel->setBuddy(m_problems);
+    // A few lines; the rows to be booked get the rest.
+    m_problems->setMaximumHeight(m_problems->fontMetrics().height() * 5);
+    problemsLayout->addWidget(m_problemsLabel);
+    problemsLayout->addWidget(m_problems);
+    splitter->setStretchFactor(0, 4);
+    splitter->setStretchFactor(1, 1);
+
+    layout->addWidget(splitter, 1);
+
+    m_summary = new QLabel(this);
+    m_summary->setObjectName(u"importSummary"_s);
+    m_summary->setWordWrap(true);
+    m_summary->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    layout->addWidget(m_summary);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    m_importButton = buttons->addButton(tr("&Import"), QDialogButtonBox::AcceptRole);
+    m_importButton->setDefault(true);
+    layout->addWidget(buttons);
+
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_importButton, &QPushButton::clicked, this, [this] {
+        if (!book()) {
+            QMessageBox box(QMessageBox::Warning, tr("Import"), tr("Nothing was imported."),
+                            QMessageBox::Ok, this);
+            box.setInformativeText(m_reportText);
+            box.exec();
+            return;
+        }
+        QMessageBox box(QMessageBox::Information, tr("Import"), tr("The import is booked."),
+                        QMessageBox::Ok, this);
+        box.setInformativeText(m_reportText);
+        box.exec();
+        accept();
+    });
+    connect(m_formatBox, &QComboBox::currentIndexChanged, this, [this] {
+        m_format = Importer::Format(m_formatBox->currentData().toInt());
+        m_csvMapping.reset();
+        readFile();
+    });
+    connect(m_unmatchedBox, &QComboBox::currentIndexChanged, this, [this] {
+        m_newCategoryEdit->setEnabled(m_unmatchedBox->currentData().toInt() < 0);
+        mapRows();
+    });
+    connect(m_newCategoryEdit, &QLineEdit::editingFinished, this, &ImportDialog::mapRows);
+    connect(m_model, &ImportPreviewModel::tickChanged, this, &ImportDialog::updateSummary);
+
+    resize(880, 620);
+    readFile();
+}
+
+ImportDialog::~ImportDialog() = default;
+
+void ImportDialog::buildCsvControls()
+{
+    m_csvControls = new QWidget(this);
+    auto *layout = new QVBoxLayout(m_csvControls);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *row = new QHBoxLayout;
+    m_encodingBox = new QComboBox(m_csvControls);
+    for (const auto &[name, label] :
+         {std::pair{u"UTF-8"_s, u"UTF-8"_s}, std::pair{u"UTF-16"_s, u"UTF-16"_s},
+          std::pair{u"CP932"_s, tr("Japanese (Shift_JIS, CP932)")},
+          std::pair{u"EUC-JP"_s, tr("Japanese (EUC-JP)")},
+          std::pair{u"windows-1252"_s, tr("Western (Windows-1252)")}})
+        m_encodingBox->addItem(label, name);
+    auto *encodingLabel = new QLabel(tr("&Encoding:"), m_csvControls);
+    encodingLabel->setBuddy(m_encodingBox);
+    m_dateOrderBox = new QComboBox(m_csvControls);
+    m_dateOrderBox->setObjectName(u"dateOrderBox"_s);
+    for (const DateOrder order : {DateOrder::YearMonthDay, DateOrder::DayMonthYear, DateOrder::MonthDayYear})
+        m_dateOrderBox->addItem(dateOrderName(order), int(order));
+    auto *dateLabel = new QLabel(tr("&Dates:"), m_csvControls);
+    dateLabel->setBuddy(m_dateOrderBox);
+    m_headerBox = new QCheckBox(tr("First row &names the columns"), m_csvControls);
+    row->addWidget(encodingLabel);
+    row->addWidget(m_encodingBox);
+    row->addSpacing(12);
+    row->addWidget(dateLabel);
+    row->addWidget(m_dateOrderBox);
+    row->addSpacing(12);
+    row->addWidget(m_headerBox);
+    row->addStretch(1);
+    layout->addLayout(row);
+
+    // One box per column of the file, under the column's first text.
+    m_columns = new QTableWidget(1, 0, m_csvControls);
+    m_columns->verticalHeader()->hide();
+    m_columns->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_columns->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_columns->setFocusPolicy(Qt::NoFocus);
+    m_columns->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    layout->addWidget(m_columns);
+
+    const auto reread = [this] {
+        m_csvMapping = chosenCsvMapping();
+        readFile();
+    };
+    connect(m_encodingBox, &QComboBox::activated, this, reread);
+    connect(m_dateOrderBox, &QComboBox::activated, this, reread);
+    connect(m_headerBox, &QCheckBox::toggled, this, reread);
+}
+
+CsvMapping ImportDialog::chosenCsvMapping() const
+{
+    CsvMapping mapping = m_reading.mapping;
+    mapping.encoding = m_encodingBox->currentData().toString();
+    mapping.dateOrder = DateOrder(m_dateOrderBox->currentData().toInt());
+    mapping.hasHeader = m_headerBox->isChecked();
+    mapping.roles.clear();
+    for (int column = 0; column < m_columns->columnCount(); ++column) {
+        const auto *box = qobject_cast<QComboBox *>(m_columns->cellWidget(0, column));
+        mapping.roles.append(box ? kRoles.value(box->currentIndex()) : Role::Ignore);
+    }
+    return mapping;
+}
+
+void ImportDialog::readFile()
+{
+    const bool csv = m_format == Importer::Format::Csv;
+    m_csvControls->setVisible(csv);
+    ImportResult imported;
+    if (m_bytes.isEmpty()) {
+        imported.error = tr("%1 is empty or cannot be read.").arg(QFileInfo(m_path).fileName());
+    } else if (csv) {
+        m_reading = CsvImporter(m_csvMapping).readCsv(m_bytes);
+        imported = m_reading.result;
+        showCsvMapping();
+    } else {
+        imported = Importer::forFormat(m_format)->parse(m_bytes);
+    }
+    m_problems->clear();
+    for (const RowProblem &problem : std::as_const(imported.problems))
+        m_problems->addItem(tr("Line %1: %2").arg(problem.line).arg(problem.reason));
+    m_problemsLabel->setVisible(!imported.problems.isEmpty());
+    m_problems->setVisible(!imported.problems.isEmpty());
+    m_model->setImport(nullptr, {});
+    m_import = std::make_unique<LedgerImport>(*m_ledger, std::move(imported),
+                                              ImportMapping(m_ledger->categoryList(), m_ledger->paywayList()));
+    mapRows();
+}
+
+void ImportDialog::showCsvMapping()
+{
+    const CsvMapping &mapping = m_reading.mapping;
+    const QSignalBlocker encodingBlock(m_encodingBox), dateBlock(m_dateOrderBox), headerBlock(m_headerBox);
+    if (m_encodingBox->findData(mapping.encoding) < 0)
+        m_encodingBox->addItem(mapping.encoding, mapping.encoding);
+    m_encodingBox->setCurrentIndex(m_encodingBox->findData(mapping.encoding));
+    m_dateOrderBox->setCurrentIndex(m_dateOrderBox->findData(int(m_reading.result.dateOrder)));
+    // Said only when the file leaves it open.
+    m_dateOrderBox->setToolTip(m_reading.result.dateOrders.size() > 1
+                                   ? tr("The dates of this file can be read more than one way.")
+                                   : QString());
+    m_headerBox->setChecked(mapping.hasHeader);
+
+    m_columns->clear();
+    m_columns->setColumnCount(int(m_reading.header.size()));
+    m_columns->setHorizontalHeaderLabels(m_reading.header);
+    for (int column = 0; column < m_columns->columnCount(); ++column) {
+        auto *box = new QComboBox(m_columns);
+        for (const Role role : kRoles)
+            box->addItem(roleName(role));
+        box->setCurrentIndex(int(kRoles.indexOf(mapping.roles.value(column, Role::Ignore))));
+        box->setAccessibleName(tr("Column %1").arg(column + 1));
+        connect(box, &QComboBox::activated, this, [this] {
+            m_csvMapping = chosenCsvMapping();
+            readFile();
+        });
+        m_columns->setCellWidget(0, column, box);
+    }
+    m_columns->resizeColumnsToContents();
+    m_columns->resizeRowsToContents();
+    // Room for a scroll bar only when the columns are wider than the dialog.
+    const bool scrolls = m_columns->horizontalHeader()->length() > width() - 2 * layout()->contentsMargins().left();
+    m_columns->setFixedHeight(m_columns->horizontalHeader()->sizeHint().height() + m_columns->rowHeight(0)
+                              + 2 * m_columns->frameWidth()
+                              + (scrolls ? m_columns->horizontalScrollBar()->sizeHint().height() : 0));
+}
+
+void ImportDialog::mapRows()
+{
+    if (!m_import)
+        return;
+    ImportMapping mapping(m_ledger->categoryList(), m_ledger->paywayList());
+    const int unmatched = m_unmatchedBox->currentData().toInt();
+    const QString newName = m_newCategoryEdit->text().trimmed();
+    if (unmatched >= 0)
+        mapping.setUnmatchedCategory(unmatched);
+    else if (!newName.isEmpty())
+        mapping.setNewCategory(newName);
+    // Ticks survive a change of mapping; the rows are the same.
+    QList<bool> ticks;
+    for (qsizetype i = 0; i < m_import->mapped().entries.size(); ++i)
+        ticks.append(m_import->isTicked(i));
+    ImportResult imported = m_import->imported();
+    m_model->setImport(nullptr, {});
+    m_import = std::make_unique<LedgerImport>(*m_ledger, std::move(imported), mapping);
+    if (ticks.size() == m_import->mapped().entries.size()) {
+        for (qsizetype i = 0; i < ticks.size(); ++i)
+            m_import->setTicked(i, ticks.at(i));
+    }
+    m_model->setImport(m_import.get(), m_ledger->paywayList());
+    m_table->resizeColumnsToContents();
+    m_table->horizontalHeader()->setSectionResizeMode(ImportPreviewModel::Details, QHeaderView::Stretch);
+    updateSummary();
+}
+
+void ImportDialog::updateSummary()
+{
+    if (m_import->imported().failed()) {
+        m_summary->setText(m_import->imported().error);
+        m_importButton->setEnabled(false);
+        return;
+    }
+    const LedgerImport::Report report = m_import->report();
+    m_summary->setText(LedgerImport::summary(report));
+    m_importButton->setEnabled(report.booked > 0);
+}
+
+bool ImportDialog::book()
+{
+    if (m_format == Importer::Format::Csv)
+        m_reading.mapping.remember(m_reading.header);
+    const int count = m_import->report().booked;
+    QProgressDialog progress(tr("Booking %n entries…", nullptr, count), tr("Cancel"), 0, 0, this);
+    progress.setWindowTitle(tr("Import"));
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(400);
+    progress.setAutoClose(false);
+    progress.setAutoReset(false);
+    QString error;
+    const bool booked = m_import->book(&error, [&progress](int done, int total) {
+        progress.setMaximum(total);
+        progress.setValue(done);
+        return !progress.wasCanceled();
+    });
+    progress.reset();
+    if (!booked) {
+        m_reportText = error;
+        return false;
+    }
+    m_reportText = LedgerImport::summary(m_import->report());
+    return true;
+}
