@@ -1,5 +1,7 @@
 #include "widgets/Appearance.h"
 
+#include "widgets/FocusFrameStyle.h"
+
 #include <QApplication>
 #include <QPalette>
 #include <QStyle>
@@ -140,9 +142,10 @@ void apply(Settings::Appearance appearance)
         return;
     takeSystemLook();
     // The style first: setting one puts its own colours in force.
-    QApplication::setStyle(appearance == Settings::Appearance::System
-                               ? systemLook().styleName
-                               : QStringLiteral("Fusion"));
+    if (appearance == Settings::Appearance::System)
+        QApplication::setStyle(systemLook().styleName);
+    else
+        QApplication::setStyle(new FocusFrameStyle);
     QApplication::setPalette(palette(appearance));
     inForce() = appearance;
 }
