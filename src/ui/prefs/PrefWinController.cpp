@@ -214,10 +214,7 @@ QWidget *PrefWinController::createGeneralTab()
             m_appearanceBefore = Appearance::current();
         Appearance::apply(Settings::Appearance(m_appearance->currentData().toInt()));
     });
-    auto *appearanceRow = new QHBoxLayout;
-    appearanceRow->addWidget(m_appearance);
-    appearanceRow->addStretch();
-    form->addRow(tr("&Appearance:"), appearanceRow);
+    form->addRow(tr("&Appearance:"), m_appearance);
 
     m_dataPath = new QLineEdit(tab);
     m_dataPath->setObjectName(QStringLiteral("dataPathTF"));
