@@ -103,14 +103,14 @@ shown_windows() {
 }
 
 # Waits for a window that was not on show before and sets `window` to it.
-known=
+known=()
 wait_for_new_window() {
   local ids
   for _ in $(seq 100); do
-    ids=$(comm -13 <(printf '%s\n' $known | sort) <(shown_windows))
+    ids=$(comm -13 <(printf '%s\n' "${known[@]}" | sort) <(shown_windows))
     if [[ -n $ids ]]; then
       window=$(head -n1 <<<"$ids")
-      known="$known $window"
+      known+=("$window")
       return 0
     fi
     sleep 0.1
@@ -133,7 +133,7 @@ start_program() {
   LC_ALL=$LANG "$app" --appearance "$look" >>"$scratch/program.log" 2>&1 &
   program=$!
   pids+=("$program")
-  known=
+  known=()
 }
 
 stop_program() {
@@ -172,7 +172,7 @@ for language in en ja; do
 
     # The preferences through the Window menu of the input window.
     "$ctl" show input
-    window=$(head -n1 <<<"$known")
+    window=${known[0]}
     xdotool windowraise "$window" windowfocus --sync "$window" key alt+w sleep 0.5 key p
     wait_for_new_window preferences
     shoot preferences
