@@ -869,6 +869,26 @@ The month stays as it is here, with your changes, and they replace the damaged f
     <context>
         <name>PrefWinController</name>
         <message>
+            <source>&amp;Appearance:</source>
+            <translation>&amp;Appearance:</translation>
+        </message>
+        <message>
+            <source>System looks as the desktop has it; Light and Dark use Penwick's own colours.</source>
+            <translation>System looks as the desktop has it; Light and Dark use Penwick's own colours.</translation>
+        </message>
+        <message>
+            <source>Dark</source>
+            <translation>Dark</translation>
+        </message>
+        <message>
+            <source>Light</source>
+            <translation>Light</translation>
+        </message>
+        <message>
+            <source>System</source>
+            <translation>System</translation>
+        </message>
+        <message>
             <source>Preferences</source>
             <translation>Preferences</translation>
         </message>
@@ -1156,6 +1176,14 @@ The month stays as it is here, with your changes, and they replace the damaged f
     </context>
     <context>
         <name>main</name>
+        <message>
+            <source>--appearance takes system, light or dark, not %1.</source>
+            <translation>--appearance takes system, light or dark, not %1.</translation>
+        </message>
+        <message>
+            <source>Look as the desktop has it (system), or light or dark, for this run only; the preferences keep their choice.</source>
+            <translation>Look as the desktop has it (system), or light or dark, for this run only; the preferences keep their choice.</translation>
+        </message>
         <message>
             <source>Start without a window, to answer the desktop's search; the windows open when the program is launched again.</source>
             <translation>Start without a window, to answer the desktop's search; the windows open when the program is launched again.</translation>

@@ -866,6 +866,26 @@ The month stays as it is here, with your changes, and they replace the damaged f
     <context>
         <name>PrefWinController</name>
         <message>
+            <source>&amp;Appearance:</source>
+            <translation>外観(&amp;A):</translation>
+        </message>
+        <message>
+            <source>System looks as the desktop has it; Light and Dark use Penwick's own colours.</source>
+            <translation>「システム」はデスクトップの外観に従い、「ライト」と「ダーク」は Penwick 独自の配色を使います。</translation>
+        </message>
+        <message>
+            <source>Dark</source>
+            <translation>ダーク</translation>
+        </message>
+        <message>
+            <source>Light</source>
+            <translation>ライト</translation>
+        </message>
+        <message>
+            <source>System</source>
+            <translation>システム</translation>
+        </message>
+        <message>
             <source>Preferences</source>
             <translation>環境設定</translation>
         </message>
@@ -1153,6 +1173,14 @@ The month stays as it is here, with your changes, and they replace the damaged f
     </context>
     <context>
         <name>main</name>
+        <message>
+            <source>--appearance takes system, light or dark, not %1.</source>
+            <translation>--appearance には system、light、dark のいずれかを指定してください (%1 は使えません)。</translation>
+        </message>
+        <message>
+            <source>Look as the desktop has it (system), or light or dark, for this run only; the preferences keep their choice.</source>
+            <translation>デスクトップの外観 (system)、ライト (light)、ダーク (dark) のいずれかで表示します。この起動の間だけで、環境設定の選択は変わりません。</translation>
+        </message>
         <message>
             <source>Start without a window, to answer the desktop's search; the windows open when the program is launched again.</source>
             <translation>ウインドウを開かずに起動し、デスクトップの検索に応答します。もう一度起動するとウインドウが開きます。</translation>

@@ -10,6 +10,8 @@
 #include "app/KAppController.h"
 #include "ledger/DataFolder.h"
 #include "ledger/KController.h"
+#include "settings/Settings.h"
+#include "widgets/Appearance.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -24,6 +26,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <optional>
 
 namespace {
 
@@ -73,11 +76,28 @@ int main(int argc, char *argv[])
         QCoreApplication::translate("main", "Start without a window, to answer the desktop's search; "
                                             "the windows open when the program is launched again."));
     parser.addOption(background);
+    const QCommandLineOption appearance(
+        QStringLiteral("appearance"),
+        QCoreApplication::translate("main", "Look as the desktop has it (system), or light or dark, "
+                                            "for this run only; the preferences keep their choice."),
+        QStringLiteral("system|light|dark"));
+    parser.addOption(appearance);
     parser.addPositionalArgument(QStringLiteral("files"),
                                  QCoreApplication::translate("main", "Month files to show (Data_YEAR_MONTH.Penwick)."),
                                  QStringLiteral("[files...]"));
     parser.process(app);
     const QStringList files = monthFilesOf(parser.positionalArguments());
+    std::optional<Settings::Appearance> look;
+    if (parser.isSet(appearance)) {
+        look = Settings::appearanceFromName(parser.value(appearance));
+        if (!look) {
+            std::fprintf(stderr, "%s\n",
+                         qPrintable(QCoreApplication::translate(
+                                        "main", "--appearance takes system, light or dark, not %1.")
+                                        .arg(parser.value(appearance))));
+            return 2;
+        }
+    }
 
     SingleInstance instance(DataFolder::dataFolderPath());
     switch (instance.claimOrForward(files)) {
@@ -90,6 +110,7 @@ int main(int argc, char *argv[])
         break;
     }
 
+    Appearance::apply(look.value_or(Settings().appearance()));
     KAppController controller;
     for (const QString &file : files) {
         if (!controller.openFile(file))

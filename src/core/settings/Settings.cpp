@@ -172,6 +172,39 @@ void Settings::setChartSelection(int chart)
     m_settings->setValue(SettingsKeys::ChartSelection, chart);
 }
 
+Settings::Appearance Settings::appearance() const
+{
+    return appearanceFromName(m_settings->value(SettingsKeys::Appearance).toString())
+        .value_or(Appearance::System);
+}
+
+void Settings::setAppearance(Appearance appearance)
+{
+    m_settings->setValue(SettingsKeys::Appearance, appearanceName(appearance));
+}
+
+std::optional<Settings::Appearance> Settings::appearanceFromName(QStringView name)
+{
+    for (const Appearance appearance : {Appearance::System, Appearance::Light, Appearance::Dark}) {
+        if (name == appearanceName(appearance))
+            return appearance;
+    }
+    return std::nullopt;
+}
+
+QString Settings::appearanceName(Appearance appearance)
+{
+    switch (appearance) {
+    case Appearance::Light:
+        return QStringLiteral("light");
+    case Appearance::Dark:
+        return QStringLiteral("dark");
+    case Appearance::System:
+        break;
+    }
+    return QStringLiteral("system");
+}
+
 int Settings::barChartNumberOfChart() const
 {
     return m_settings->value(SettingsKeys::BarChartNumberOfChart, 0).toInt();

@@ -91,6 +91,15 @@ public:
     int barChartNumberOfChart() const;
     void setBarChartNumberOfChart(int count);
 
+    // How the windows look: as the desktop has them, or in the program's own
+    // light or dark colours. Stored, and named on the command line, as
+    // "system", "light" or "dark"; anything else stands for the system's.
+    enum class Appearance { System, Light, Dark };
+    Appearance appearance() const;
+    void setAppearance(Appearance appearance);
+    static std::optional<Appearance> appearanceFromName(QStringView name);
+    static QString appearanceName(Appearance appearance);
+
     // How the columns of a CSV file with this header line were read last
     // time; empty when never.
     QVariantMap csvImportMapping(const QStringList &header) const;

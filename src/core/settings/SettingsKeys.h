@@ -36,6 +36,9 @@ inline constexpr QLatin1StringView ListWindowSplitView{"ListWindowSplitView"};
 inline constexpr QLatin1StringView ChartSelection{"PWK_Chart_Selection"};
 inline constexpr QLatin1StringView BarChartNumberOfChart{"PWK_BarChart_NumberOfChart"};
 
+// How the windows look: "system", "light" or "dark".
+inline constexpr QLatin1StringView Appearance{"Appearance"};
+
 // The password hash.
 inline constexpr QLatin1StringView PasswordHash{"se-XCMD"};
 

@@ -9,6 +9,7 @@
 #include "security/PasswordLock.h"
 #include "settings/Settings.h"
 #include "settings/SettingsKeys.h"
+#include "widgets/Appearance.h"
 #include "widgets/RgbaQColor.h"
 
 #include <QAbstractItemDelegate>
@@ -206,6 +207,21 @@ QWidget *PrefWinController::createGeneralTab()
     auto *form = new QFormLayout(tab);
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
 
+    m_appearance = new QComboBox(tab);
+    m_appearance->setObjectName(QStringLiteral("appearancePp"));
+    m_appearance->addItem(tr("System"), int(Settings::Appearance::System));
+    m_appearance->addItem(tr("Light"), int(Settings::Appearance::Light));
+    m_appearance->addItem(tr("Dark"), int(Settings::Appearance::Dark));
+    m_appearance->setToolTip(tr("System looks as the desktop has it; Light and Dark use "
+                                "Penwick's own colours."));
+    // Shown at once, so that the user sees what OK would keep.
+    connect(m_appearance, &QComboBox::activated, this, [this] {
+        if (!m_appearanceBefore)
+            m_appearanceBefore = Appearance::current();
+        Appearance::apply(Settings::Appearance(m_appearance->currentData().toInt()));
+    });
+    form->addRow(tr("&Appearance:"), m_appearance);
+
     m_dataPath = new QLineEdit(tab);
     m_dataPath->setObjectName(QStringLiteral("dataPathTF"));
     m_dataPath->setReadOnly(true);
@@ -304,6 +320,7 @@ void PrefWinController::readSettings()
     // 0 and 1 both mean the OK button.
     const int item = m_returnInput->findData(returnInput == 1 ? int(ReturnPressesOK) : returnInput);
     m_returnInput->setCurrentIndex(qMax(0, item));
+    m_appearance->setCurrentIndex(qMax(0, m_appearance->findData(int(settings.appearance()))));
     m_setLastDate->setChecked(settings.changeMonthLastDate());
     // A stored day the box cannot offer (none, 0, or outside 1 to 31) shows
     // as it is, in place of 0 below the range, and stays stored as it is
@@ -490,6 +507,7 @@ void PrefWinController::writeSettings()
     for (int i = 0; i < 4; ++i)
         settings.setOpenWindow(windows[i], m_openWindow[i]->isChecked());
     settings.setReturnInputDefault(m_returnInput->currentData().toInt());
+    settings.setAppearance(Settings::Appearance(m_appearance->currentData().toInt()));
     const bool closingDayWas = settings.changeMonthLastDate();
     const int dayWas = settings.monthLastDate();
     settings.setChangeMonthLastDate(m_setLastDate->isChecked());
@@ -514,6 +532,9 @@ void PrefWinController::accept()
 void PrefWinController::done(int result)
 {
     Settings().setSavedLayout(SettingsKeys::PreferenceWindow, saveGeometry());
+    if (result == QDialog::Rejected && m_appearanceBefore)
+        Appearance::apply(*m_appearanceBefore);
+    m_appearanceBefore.reset();
     QDialog::done(result);
     // Every opening starts from what is stored.
     readListFromDefault();

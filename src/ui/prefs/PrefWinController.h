@@ -1,9 +1,12 @@
 #pragma once
 
 #include "ledger/ListConversion.h"
+#include "settings/Settings.h"
 
 #include <QDialog>
 #include <QPersistentModelIndex>
+
+#include <optional>
 
 class KController;
 class ListEditorModel;
@@ -16,14 +19,15 @@ class QTabWidget;
 class QTableView;
 
 // The preferences: the category list with its colours, the payway list, and
-// the general settings (data folder, windows to open at start, the month's
-// closing day, the Return key of the input window, the password).
+// the general settings (appearance, data folder, windows to open at start,
+// the month's closing day, the Return key of the input window, the password).
 //
 // Nothing is stored until OK, which renumbers the stored entries where
 // items were merged or moved, writes the lists and settings, and announces
 // them; Cancel drops every edit. The data folder and the password are the
 // exceptions: a new folder takes effect as soon as it is chosen, a password
-// as soon as its own dialog is confirmed. The window never opens another
+// as soon as its own dialog is confirmed, and a new appearance shows at once
+// (Cancel brings the old one back). The window never opens another
 // window itself; it asks with signals.
 class PrefWinController : public QDialog
 {
@@ -89,6 +93,10 @@ private:
     QCheckBox *m_setLastDate;
     QSpinBox *m_lastDate;
     QComboBox *m_returnInput;
+    QComboBox *m_appearance;
+    // The look in force before the user tried others here; none while the
+    // user has not.
+    std::optional<Settings::Appearance> m_appearanceBefore;
     QLabel *m_passwordState;
     // The name of an item just added, open for editing as offered.
     QPersistentModelIndex m_offeredName;

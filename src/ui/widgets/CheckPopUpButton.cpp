@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QStyle>
 
 namespace {
 constexpr int CheckAllTag = CheckPopUpButton::FirstFixedTag;
@@ -111,6 +112,13 @@ QAction *CheckPopUpButton::itemWithTag(int tag) const
             return action;
     }
     return nullptr;
+}
+
+QSize CheckPopUpButton::sizeHint() const
+{
+    QSize size = QToolButton::sizeHint();
+    size.rwidth() += style()->pixelMetric(QStyle::PM_MenuButtonIndicator, nullptr, this);
+    return size;
 }
 
 bool CheckPopUpButton::eventFilter(QObject *watched, QEvent *event)

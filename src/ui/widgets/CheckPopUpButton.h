@@ -36,6 +36,10 @@ public:
     // The item of a tag, for tests and for callers that check one item.
     QAction *itemWithTag(int tag) const;
 
+    // Room for the menu's arrow too, which the style draws in the button's
+    // corner but does not count.
+    QSize sizeHint() const override;
+
 signals:
     // The user changed the checks: one item, all of them, or none.
     void checksChanged();
