@@ -78,6 +78,16 @@ wait_for_window "May 2006"
 "$ctl" list 200605 | grep -q "Smoke test" || fail "penwickctl list does not show the booked entry"
 stop "$first"
 
+# Opened, looked at in another appearance and closed, a folder stays byte
+# for byte as it was.
+sums=$(cd "$folder" && sha256sum -- * | sort)
+start --appearance dark
+wait_for_window "Book Entries"
+timeout 15 "$app" "$folder/Data_2006_5.Penwick" || fail "the second launch did not hand over"
+wait_for_window "May 2006"
+stop "$last_pid"
+[[ $(cd "$folder" && sha256sum -- * | sort) == "$sums" ]] || fail "opening and closing changed the data folder"
+
 # Locked with a password: the prompt is the only window, and the program
 # still serves later launches.
 cat >"$XDG_CONFIG_HOME/Penwick/Penwick.conf" <<CONF

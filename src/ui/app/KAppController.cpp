@@ -168,8 +168,12 @@ QMenuBar *KAppController::installMenuBar(QWidget *window)
     QMenu *help = bar->addMenu(tr("&Help"));
     help->addAction(m_aboutAction);
     // A narrow window (the balance) would fold its menus away behind a
-    // chevron: it is at least as wide as its menus.
-    window->setMinimumWidth(std::max(window->minimumWidth(), bar->sizeHint().width()));
+    // chevron: it is at least as wide as its menus, measured in the style and
+    // font they are drawn with, and a character to spare, since a fallback
+    // font for Japanese draws a little wider than it measures.
+    bar->ensurePolished();
+    window->setMinimumWidth(std::max(window->minimumWidth(),
+                                     bar->sizeHint().width() + bar->fontMetrics().averageCharWidth()));
     return bar;
 }
 
