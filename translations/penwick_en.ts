@@ -379,10 +379,6 @@
             <translation>A change of the category and payway lists was interrupted and could not be finished: %1</translation>
         </message>
         <message>
-            <source>The category and payway lists are being changed; the month is saved as soon as that is done.</source>
-            <translation>The category and payway lists are being changed; the month is saved as soon as that is done.</translation>
-        </message>
-        <message>
             <source>Nothing can be booked until the list file is mended. %1</source>
             <translation>Nothing can be booked until the list file is mended. %1</translation>
         </message>
@@ -393,10 +389,6 @@
         <message>
             <source>The file of %1/%2 could not be read, so nothing can be added to it.</source>
             <translation>The file of %1/%2 could not be read, so nothing can be added to it.</translation>
-        </message>
-        <message>
-            <source>The category and payway lists are being changed; try again when that is done.</source>
-            <translation>The category and payway lists are being changed; try again when that is done.</translation>
         </message>
         <message>
             <source>The changes to %1/%2 could not be read back.</source>
@@ -530,6 +522,22 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>The import could not be recorded, so nothing was booked.</source>
             <translation>The import could not be recorded, so nothing was booked.</translation>
+        </message>
+        <message>
+            <source>An import is being booked.</source>
+            <translation>An import is being booked.</translation>
+        </message>
+        <message>
+            <source>The category and payway lists are being changed.</source>
+            <translation>The category and payway lists are being changed.</translation>
+        </message>
+        <message>
+            <source>%1 The month is saved as soon as that is done.</source>
+            <translation>%1 The month is saved as soon as that is done.</translation>
+        </message>
+        <message>
+            <source>%1 Try again when that is done.</source>
+            <translation>%1 Try again when that is done.</translation>
         </message>
     </context>
     <context>

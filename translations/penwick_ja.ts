@@ -378,10 +378,6 @@
             <translation>分類と支払い方法のリストの変更が中断され、完了できませんでした: %1</translation>
         </message>
         <message>
-            <source>The category and payway lists are being changed; the month is saved as soon as that is done.</source>
-            <translation>分類と支払い方法のリストを変更中です。終わり次第この月を保存します。</translation>
-        </message>
-        <message>
             <source>Nothing can be booked until the list file is mended. %1</source>
             <translation>リストのファイルを修復するまで記帳できません。%1</translation>
         </message>
@@ -392,10 +388,6 @@
         <message>
             <source>The file of %1/%2 could not be read, so nothing can be added to it.</source>
             <translation>%2 年 %1 月のファイルを読み込めなかったため、追加できません。</translation>
-        </message>
-        <message>
-            <source>The category and payway lists are being changed; try again when that is done.</source>
-            <translation>分類と支払い方法のリストを変更中です。終わってからもう一度お試しください。</translation>
         </message>
         <message>
             <source>The changes to %1/%2 could not be read back.</source>
@@ -528,6 +520,22 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>The import could not be recorded, so nothing was booked.</source>
             <translation>取り込みを記録できなかったため、何も記帳していません。</translation>
+        </message>
+        <message>
+            <source>An import is being booked.</source>
+            <translation>取り込みを記帳しています。</translation>
+        </message>
+        <message>
+            <source>The category and payway lists are being changed.</source>
+            <translation>分類と支払い方法のリストを変更中です。</translation>
+        </message>
+        <message>
+            <source>%1 The month is saved as soon as that is done.</source>
+            <translation>%1終わり次第この月を保存します。</translation>
+        </message>
+        <message>
+            <source>%1 Try again when that is done.</source>
+            <translation>%1終わってからもう一度お試しください。</translation>
         </message>
     </context>
     <context>

@@ -277,14 +277,20 @@ bool KController::writeMonth(MonthDataList *list, QString *reason)
     return true;
 }
 
+QString KController::writesHeldReason() const
+{
+    return m_writesHeld == WritesHeld::ForImport
+        ? tr("An import is being booked.")
+        : tr("The category and payway lists are being changed.");
+}
+
 bool KController::writeDataListToFile(MonthDataList *list, QString *error)
 {
     if (!list)
         return false;
-    if (m_conversionRunning) {
-        // Stays edited; saved once the conversion is through.
-        setError(error, tr("The category and payway lists are being changed; the month is saved "
-                           "as soon as that is done."));
+    if (m_writesHeld != WritesHeld::No) {
+        // Stays edited; saved once the folder is through.
+        setError(error, tr("%1 The month is saved as soon as that is done.").arg(writesHeldReason()));
         return false;
     }
     QString reason;
@@ -532,7 +538,8 @@ void KController::dropJournal()
 
 void KController::keepChange(MonthDataList *list)
 {
-    if (!list || !list->isEdited() || list->isReadOnly() || m_conversionRunning || m_converting)
+    if (!list || !list->isEdited() || list->isReadOnly() || m_writesHeld != WritesHeld::No
+        || m_converting)
         return;
     m_saveTimer.start();
     if (m_listStock.value(cacheKey(*list)).get() != list)
@@ -694,12 +701,12 @@ bool KController::addData(const PaymentArray &records, int year, int month, QStr
     const bool wasEdited = list->isEdited();
     list->addData(records);
     QString reason;
-    if (!m_conversionRunning && writeMonth(list.get(), &reason)) {
+    if (m_writesHeld == WritesHeld::No && writeMonth(list.get(), &reason)) {
         setMonthWritten(list.get(), {});
         return true;
     }
-    if (m_conversionRunning)
-        reason = tr("The category and payway lists are being changed; try again when that is done.");
+    if (m_writesHeld != WritesHeld::No)
+        reason = tr("%1 Try again when that is done.").arg(writesHeldReason());
     list->deleteData(records);
     list->setIsEdited(wasEdited);
     setError(error, reason);
@@ -863,7 +870,7 @@ bool KController::rewriteFolder(const ListConversion &conversion,
 
     // Whoever shows progress may let the event loop run; nothing else may
     // write a month until the folder is through.
-    m_conversionRunning = true;
+    m_writesHeld = WritesHeld::ForConversion;
     ConversionJournal journal(dataFolderPath());
     bool decided = journal.begin(conversion, files, conversion.renumbers(), error);
     for (int i = 0; decided && i < count; ++i) {
@@ -875,13 +882,13 @@ bool KController::rewriteFolder(const ListConversion &conversion,
     decided = decided && journal.commit(error);
     if (!decided) {
         journal.abandon();
-        m_conversionRunning = false;
+        m_writesHeld = WritesHeld::No;
         return false;
     }
     QString reason;
     const bool finished = journal.finish(
         [this, count, total](int done) { emit conversionProgress(count + done, total); }, &reason);
-    m_conversionRunning = false;
+    m_writesHeld = WritesHeld::No;
     // Our own doing, not to be taken for another computer's; cut short, the
     // folder holds some months of each kind.
     for (int i = 0; i < count; ++i) {
@@ -1135,7 +1142,7 @@ void KController::takeOutsideChanges(const QList<SharedFolder::FileChange> &file
     }
     // The renumbering writes every month; what others did meanwhile is taken
     // once it is through.
-    const bool busy = m_conversionRunning || m_converting;
+    const bool busy = m_writesHeld != WritesHeld::No || m_converting;
     if (busy && !files.isEmpty())
         m_sharedFolder->lookAgainLater();
     bool changed = false;
@@ -1329,9 +1336,8 @@ bool KController::bookImport(const PaymentArray &records, QString *error,
                             .arg(m_listFileProblem));
         return false;
     }
-    if (m_conversionRunning) {
-        setError(error, tr("The category and payway lists are being changed; try again when that "
-                           "is done."));
+    if (m_writesHeld != WritesHeld::No) {
+        setError(error, tr("%1 Try again when that is done.").arg(writesHeldReason()));
         return false;
     }
     const QMap<int, PaymentArray> groups = assortDataArray(records);
@@ -1359,7 +1365,7 @@ bool KController::bookImport(const PaymentArray &records, QString *error,
     // record it on its own: that would put part of the import on the disk.
     // Whoever shows progress may let the event loop run meanwhile.
     m_saveTimer.stop();
-    m_conversionRunning = true;
+    m_writesHeld = WritesHeld::ForImport;
     QList<bool> wasEdited;
     QList<MonthChange> changes;
     changes.reserve(months.size());
@@ -1375,16 +1381,16 @@ bool KController::bookImport(const PaymentArray &records, QString *error,
         changes.append({month->year(), month->month(), std::move(before), MonthFile::encode(*month)});
         cancelled = progress && !progress(added + 1, total);
     }
-    m_conversionRunning = false;
+    m_writesHeld = WritesHeld::No;
     // The moment of booking.
     if (cancelled || !journal(changes)) {
-        m_conversionRunning = true;
+        m_writesHeld = WritesHeld::ForImport;
         for (int i = 0; i < added; ++i) {
             MonthDataList *month = months.at(i).get();
             month->deleteData(groups.value(cacheKey(*month)));
             month->setIsEdited(wasEdited.at(i));
         }
-        m_conversionRunning = false;
+        m_writesHeld = WritesHeld::No;
         setError(error, cancelled ? tr("The import was cancelled; nothing was booked.")
                                   : tr("The import could not be recorded, so nothing was booked."));
         return false;

@@ -318,9 +318,13 @@ private:
     QStringList m_paywayList;
     // Records renumbered in memory report nothing.
     bool m_converting = false;
-    // While the folder is renumbered, only the conversion writes to it; a
-    // month changed meanwhile stays edited and is saved afterwards.
-    bool m_conversionRunning = false;
+    // While the folder is renumbered, only the conversion writes to it; while
+    // an import's entries are in memory only, nothing does. A month changed
+    // meanwhile stays edited and is saved afterwards.
+    enum class WritesHeld { No, ForConversion, ForImport };
+    WritesHeld m_writesHeld = WritesHeld::No;
+    // Why a month cannot be written now, as the user is told.
+    QString writesHeldReason() const;
     // Edited months reach the disk about a second after the last change, not
     // only at quit.
     QTimer m_saveTimer;
