@@ -1,3 +1,4 @@
+#include "ClientRun.h"
 #include "TestDataFolder.h"
 
 #include "ScriptService.h"
@@ -20,23 +21,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct Run
+ClientRun penwickctl(const QStringList &arguments)
 {
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
-
-// Runs penwickctl on the private bus while this process keeps serving it.
-Run penwickctl(const QStringList &arguments)
-{
-    QProcess process;
-    QSignalSpy finished(&process, &QProcess::finished);
-    process.start(QStringLiteral(PENWICKCTL_PATH), arguments);
-    if (!finished.wait(20000))
-        qFatal("penwickctl did not finish");
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+    return runClient(QStringLiteral(PENWICKCTL_PATH), arguments);
 }
 
 // Three entries over two months, one of them income, and a row whose date
@@ -115,13 +102,13 @@ void TestScriptImport::cleanupTestCase()
 
 void TestScriptImport::dryRunChangesNothing()
 {
-    const Run lines = penwickctl({u"import"_s, u"--dry-run"_s, m_file});
+    const ClientRun lines = penwickctl({u"import"_s, u"--dry-run"_s, m_file});
     QVERIFY2(lines.exitCode == 0, qPrintable(lines.err));
     QVERIFY2(lines.out.contains(u"line 11\t'31/31/2006' is not a date."_s), qPrintable(lines.out));
     QVERIFY(lines.out.contains(u"\tbook\t2006-06-15\t"_s));
     QVERIFY(lines.out.contains(u"Would book 3 entries (2006-05: 1, 2006-06: 2)"_s));
 
-    const Run json = penwickctl({u"import"_s, u"--dry-run"_s, u"--json"_s, u"--format"_s, u"qif"_s, m_file});
+    const ClientRun json = penwickctl({u"import"_s, u"--dry-run"_s, u"--json"_s, u"--format"_s, u"qif"_s, m_file});
     QVERIFY2(json.exitCode == 0, qPrintable(json.err));
     const QJsonObject report = QJsonDocument::fromJson(json.out.toUtf8()).object();
     QCOMPARE(report.value(u"booked"_s).toInt(), 3);
@@ -138,7 +125,7 @@ void TestScriptImport::importIsBookedOnceAsOneChange()
 {
     const QString ours = m_app->ledger()->categoryList().at(1);
     QSignalSpy recorded(m_app->ledger(), &KController::changeRecorded);
-    const Run booked = penwickctl({u"import"_s, u"--category"_s, u"bread="_s + ours, m_file});
+    const ClientRun booked = penwickctl({u"import"_s, u"--category"_s, u"bread="_s + ours, m_file});
     QVERIFY2(booked.exitCode == 0, qPrintable(booked.err));
     QVERIFY2(booked.out.contains(u"Booked 3 entries"_s), qPrintable(booked.out));
     QCOMPARE(entriesIn(2006, 5), 1);
@@ -149,7 +136,7 @@ void TestScriptImport::importIsBookedOnceAsOneChange()
     QVERIFY(QFile::exists(m_app->ledger()->filePathForYear(2006, 6)));
 
     // Once booked, the same statement brings nothing twice.
-    const Run again = penwickctl({u"import"_s, m_file});
+    const ClientRun again = penwickctl({u"import"_s, m_file});
     QVERIFY2(again.out.contains(u"Skipped: 3 booked already"_s), qPrintable(again.out));
     QCOMPARE(entriesIn(2006, 6), 2);
 }
@@ -172,7 +159,7 @@ void TestScriptImport::refusalsAreOneLine()
     QFETCH(QStringList, arguments);
     QFETCH(int, exitCode);
     QFETCH(QString, message);
-    const Run refused = penwickctl(QStringList{u"import"_s} + arguments + QStringList{m_file});
+    const ClientRun refused = penwickctl(QStringList{u"import"_s} + arguments + QStringList{m_file});
     QCOMPARE(refused.exitCode, exitCode);
     QVERIFY2(refused.err.contains(message), qPrintable(refused.err));
     QVERIFY(refused.out.isEmpty());

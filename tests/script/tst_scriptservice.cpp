@@ -1,3 +1,4 @@
+#include "ClientRun.h"
 #include "TestDataFolder.h"
 #include "TestHelpers.h"
 
@@ -34,27 +35,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct Run
-{
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
-
-// Runs a client on the private bus while this process keeps serving it.
-Run runClient(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    QSignalSpy finished(&process, &QProcess::finished);
-    process.start(program, arguments);
-    if (!finished.wait(20000))
-        qFatal("%s did not finish", qPrintable(program));
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
 // A client nobody here wrote.
-Run searchCall(const QString &path, const QString &method, const QStringList &arguments)
+ClientRun searchCall(const QString &path, const QString &method, const QStringList &arguments)
 {
     return runClient(u"gdbus"_s,
                      QStringList{u"call"_s, u"--session"_s, u"--dest"_s, ScriptNames::SearchService,
@@ -88,7 +70,7 @@ ListWinController *listWindow()
     return nullptr;
 }
 
-Run penwickctl(const QStringList &arguments)
+ClientRun penwickctl(const QStringList &arguments)
 {
     return runClient(QStringLiteral(PENWICKCTL_PATH), arguments);
 }
@@ -265,11 +247,11 @@ void TestScriptService::dbusCalls()
 void TestScriptService::penwickctlBooksListsAndSearches()
 {
     const QStringList categories = m_app->ledger()->categoryList();
-    const Run names = penwickctl({u"categories"_s});
+    const ClientRun names = penwickctl({u"categories"_s});
     QCOMPARE(names.exitCode, 0);
     QCOMPARE(names.out, categories.join(u'\n') + u'\n');
 
-    const Run booked = penwickctl({u"book"_s, u"--amount"_s, u"1250"_s, u"--category"_s,
+    const ClientRun booked = penwickctl({u"book"_s, u"--amount"_s, u"1250"_s, u"--category"_s,
                                    categories.at(1), u"--details"_s, u"Dinner out"_s,
                                    u"--year"_s, u"2006"_s, u"--month"_s, u"5"_s, u"--date"_s, u"20"_s});
     QVERIFY2(booked.exitCode == 0, qPrintable(booked.err));
@@ -279,19 +261,19 @@ void TestScriptService::penwickctlBooksListsAndSearches()
     penwickctl({u"book"_s, u"--amount"_s, u"80"_s, u"--category"_s, u"0"_s, u"--details"_s,
                 u"Apples"_s, u"--year"_s, u"2006"_s, u"--month"_s, u"5"_s, u"--date"_s, u"3"_s});
 
-    const Run listed = penwickctl({u"list"_s, u"200605"_s});
+    const ClientRun listed = penwickctl({u"list"_s, u"200605"_s});
     QCOMPARE(listed.exitCode, 0);
     QCOMPARE(listed.out.count(u'\n'), 2);
     QVERIFY(listed.out.indexOf(u"Apples"_s) < listed.out.indexOf(u"Dinner out"_s));
 
-    const Run found = penwickctl({u"search"_s, u"200605"_s, u"--days"_s, u"15-25"_s, u"--json"_s});
+    const ClientRun found = penwickctl({u"search"_s, u"200605"_s, u"--days"_s, u"15-25"_s, u"--json"_s});
     QCOMPARE(found.exitCode, 0);
     QVERIFY(found.out.contains(u"\"details\": \"Dinner out\""_s));
     QVERIFY(!found.out.contains(u"Apples"_s));
 
     // A search without keys selects everything again.
     QCOMPARE(penwickctl({u"search"_s, u"200605"_s}).out.count(u'\n'), 2);
-    const Run sorted = penwickctl({u"sort"_s, u"200605"_s, u"--key"_s, u"Amount"_s, u"--descend"_s});
+    const ClientRun sorted = penwickctl({u"sort"_s, u"200605"_s, u"--key"_s, u"Amount"_s, u"--descend"_s});
     QCOMPARE(sorted.exitCode, 0);
     QCOMPARE(sorted.out.count(u'\n'), 2);
     QVERIFY(sorted.out.indexOf(u"Dinner out"_s) < sorted.out.indexOf(u"Apples"_s));
@@ -300,7 +282,7 @@ void TestScriptService::penwickctlBooksListsAndSearches()
     const QString csv = u"Date,Category,Details,Amount,Payway\r\n2006-05-03,%1,Apples,80,%3\r\n"
                         "2006-05-20,%2,Dinner out,1250,%3\r\n"_s.arg(categories.at(0), categories.at(1),
                                                                      m_app->ledger()->paywayList().at(0));
-    const Run exported = penwickctl({u"export"_s, u"2006"_s});
+    const ClientRun exported = penwickctl({u"export"_s, u"2006"_s});
     QVERIFY2(exported.exitCode == 0, qPrintable(exported.err));
     QCOMPARE(exported.out, csv);
 }
@@ -310,7 +292,7 @@ void TestScriptService::lockedProgramAnswersOnlyAnError()
     QVERIFY(!m_app->running());
     const QDBusMessage reply = application().call(u"CategoryNames"_s);
     QCOMPARE(reply.errorName(), QString(ScriptNames::LockedError));
-    const Run run = penwickctl({u"book"_s, u"--amount"_s, u"5"_s, u"--category"_s, u"0"_s});
+    const ClientRun run = penwickctl({u"book"_s, u"--amount"_s, u"5"_s, u"--category"_s, u"0"_s});
     QVERIFY(run.exitCode != 0);
     QVERIFY2(run.err.contains(u"locked"_s), qPrintable(run.err));
     QVERIFY(!QFileInfo::exists(m_app->ledger()->filePathForYear(QDate::currentDate().year(),
@@ -324,7 +306,7 @@ void TestScriptService::lockedProgramAnswersOnlyAnError()
     const QString id = SearchResults::resultIDs(other, u"Bakery"_s).constFirst();
     const QString provider = ScriptNames::SearchProviderPath;
     const QString runner = ScriptNames::RunnerPath;
-    for (const Run &asked :
+    for (const ClientRun &asked :
          {searchCall(provider, u"org.gnome.Shell.SearchProvider2.GetInitialResultSet"_s, {u"['Bakery']"_s}),
           searchCall(provider, u"org.gnome.Shell.SearchProvider2.GetSubsearchResultSet"_s,
                      {u"['"_s + id + u"']"_s, u"['Bakery']"_s}),
@@ -375,7 +357,7 @@ void TestScriptService::penwickctlRefusesAndWritesNothing()
     const bool stopped = words.contains(u"not running"_s);
     if (stopped)
         m_service.reset();
-    const Run run = penwickctl(arguments);
+    const ClientRun run = penwickctl(arguments);
     QVERIFY(run.exitCode != 0);
     QVERIFY2(run.err.contains(words), qPrintable(run.err));
     if (stopped)
@@ -400,7 +382,7 @@ void TestScriptService::bookingOnAFullDiskIsNotBooked()
     const QDBusMessage reply = application().call(
         u"MakeNewPaymentData"_s, QVariantMap{{u"year"_s, 2006}, {u"month"_s, 5}, {u"amount"_s, 5}});
     QCOMPARE(reply.errorName(), QString(ScriptNames::NotSavedError));
-    const Run full = penwickctl(book);
+    const ClientRun full = penwickctl(book);
     DurableFile::setFaultForTesting(std::nullopt);
     QVERIFY(full.exitCode != 0);
     QVERIFY2(full.err.contains(QString::fromLocal8Bit(std::strerror(ENOSPC))), qPrintable(full.err));
@@ -409,10 +391,10 @@ void TestScriptService::bookingOnAFullDiskIsNotBooked()
     QVERIFY(!m_app->ledger()->hasUnsavedMonths());
 
     // Space is back: the next booking goes through, and says what it stored.
-    const Run again = penwickctl(book);
+    const ClientRun again = penwickctl(book);
     QCOMPARE(again.exitCode, 0);
     QVERIFY2(again.err.contains(u"stored as 100000000"_s), qPrintable(again.err));
-    const Run listed = penwickctl({u"list"_s, u"200605"_s});
+    const ClientRun listed = penwickctl({u"list"_s, u"200605"_s});
     QCOMPARE(listed.out.count(u'\n'), 2);
     QVERIFY2(listed.out.contains(u"\ttab\\there\\nand a line\t"_s), qPrintable(listed.out));
 }
@@ -445,11 +427,11 @@ void TestScriptService::desktopSearchFindsAndShowsTheEntry()
     QFETCH(QStringList, arguments);
     bookSearchedEntries(*m_app->ledger());
     const QString id = SearchResults::resultIDs(*m_app->ledger(), u"Train"_s).constFirst();
-    const Run found = searchCall(path, search, words);
+    const ClientRun found = searchCall(path, search, words);
     QVERIFY2(found.exitCode == 0, qPrintable(found.err));
     QCOMPARE(resultIDsIn(found.out), QStringList{id});
 
-    const Run shown = searchCall(path, show, QStringList{id} + arguments);
+    const ClientRun shown = searchCall(path, show, QStringList{id} + arguments);
     QVERIFY2(shown.exitCode == 0, qPrintable(shown.err));
     ListWinController *list = listWindow();
     QVERIFY(list);
