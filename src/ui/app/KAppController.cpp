@@ -170,10 +170,12 @@ QMenuBar *KAppController::installMenuBar(QWidget *window)
     // A narrow window (the balance) would fold its menus away behind a
     // chevron: it is at least as wide as its menus, measured in the style and
     // font they are drawn with, and a character to spare, since a fallback
-    // font for Japanese draws a little wider than it measures.
+    // font for Japanese draws a little wider than it measures. A minimum set
+    // on the window overrides its layout's, so that one counts here too.
     bar->ensurePolished();
-    window->setMinimumWidth(std::max(window->minimumWidth(),
-                                     bar->sizeHint().width() + bar->fontMetrics().averageCharWidth()));
+    window->setMinimumWidth(std::max({window->minimumWidth(), window->minimumSizeHint().width(),
+                                      bar->sizeHint().width()
+                                          + bar->fontMetrics().averageCharWidth()}));
     return bar;
 }
 

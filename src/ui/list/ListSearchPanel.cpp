@@ -17,7 +17,10 @@ QLineEdit *searchField(const QString &objectName, const QString &placeholder, in
     field->setObjectName(objectName);
     field->setPlaceholderText(placeholder);
     field->setClearButtonEnabled(true);
-    field->setMinimumWidth(field->fontMetrics().averageCharWidth() * characters);
+    // Counted in digits, what the fields mostly hold: a font with Japanese
+    // glyphs has an average character twice as wide, which would push the
+    // row past the window.
+    field->setMinimumWidth(field->fontMetrics().horizontalAdvance(u'0') * characters);
     return field;
 }
 
@@ -35,10 +38,10 @@ ListSearchPanel::ListSearchPanel(QWidget *parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
 
-    m_dateField = searchField(QStringLiteral("dateSearchTF"), tr("e.g. 1,5,10-12"), 18, this);
+    m_dateField = searchField(QStringLiteral("dateSearchTF"), tr("e.g. 1,5,10-12"), 12, this);
     m_categoryButton = new CheckPopUpButton(tr("Category"), this);
     m_categoryButton->setObjectName(QStringLiteral("categorySearchPp"));
-    m_detailsField = searchField(QStringLiteral("detailsSearchTF"), tr("Any of these words"), 22, this);
+    m_detailsField = searchField(QStringLiteral("detailsSearchTF"), tr("Any of these words"), 16, this);
     m_amountMinField = searchField(QStringLiteral("amountMinSearchTF"), tr("From"), 10, this);
     m_amountMaxField = searchField(QStringLiteral("amountMaxSearchTF"), tr("To"), 10, this);
     for (QLineEdit *field : {m_dateField, m_amountMinField, m_amountMaxField})

@@ -116,8 +116,10 @@ QAction *CheckPopUpButton::itemWithTag(int tag) const
 
 QSize CheckPopUpButton::sizeHint() const
 {
+    // The label stays centred and the arrow sits in the bottom right corner:
+    // room for the arrow on both sides keeps the two apart.
     QSize size = QToolButton::sizeHint();
-    size.rwidth() += style()->pixelMetric(QStyle::PM_MenuButtonIndicator, nullptr, this);
+    size.rwidth() += 2 * style()->pixelMetric(QStyle::PM_MenuButtonIndicator, nullptr, this);
     return size;
 }
 

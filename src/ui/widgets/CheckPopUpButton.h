@@ -39,6 +39,8 @@ public:
     // Room for the menu's arrow too, which the style draws in the button's
     // corner but does not count.
     QSize sizeHint() const override;
+    // Never narrower: a squeezed button would run its label into the arrow.
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
 signals:
     // The user changed the checks: one item, all of them, or none.
