@@ -20,10 +20,8 @@ namespace {
 // The length and bytes of "Lunch" in it.
 const char LunchHex[] = "054c756e6368";
 
-// A little-endian header, then a root object of class T under NSObject whose
-// values follow.
-const char RootOfClassTHex[] = "040b73747265616d747970656481e803"
-                               "840140848484015400" "8484084e534f626a65637400" "85";
+// A little-endian stream whose root object of class T holds what follows.
+const QByteArray RootOfClassT = QByteArray(LittleEndianHeaderHex) + RootOfClassTHex;
 
 const TypedStreamClassChain TClasses{{"T", 0}, {"NSObject", 0}};
 
@@ -149,7 +147,7 @@ private slots:
         // new object O3 of class T (the label of O1), whose one value is the
         // root, still being read.
         QTest::newRow("child pointing back to its parent")
-            << QByteArray::fromHex(QByteArray(RootOfClassTHex) + "92" "84" "93" "9292" "86" "86")
+            << QByteArray::fromHex(RootOfClassT + "92" "84" "93" "9292" "86" "86")
             << QByteArray(R"({"values": [
                  {"type": "@", "object": 2,
                   "classes": [{"name": "T", "version": 0}, {"name": "NSObject", "version": 0}],
@@ -171,7 +169,7 @@ private slots:
     {
         // One group "Qffd": the largest unsigned 64-bit number, 0.1f, a float NaN
         // and a double minus infinity.
-        const QByteArray data = QByteArray::fromHex(QByteArray(RootOfClassTHex)
+        const QByteArray data = QByteArray::fromHex(RootOfClassT
                                                     + "84045166666487ffffffffffffffff83cdcccc3d"
                                                       "830000c07f83000000000000f0ff86");
         const char *const expected = R"({"values": [

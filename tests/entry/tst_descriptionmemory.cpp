@@ -12,10 +12,33 @@ namespace {
 
 using Record = DescriptionMemory::Record;
 
-void book(DescriptionMemory &memory, const QString &details, int category = 2, float amount = 800)
+// Books "details" or "details=amount"; "fill" books C1 to C8 three times
+// each, which fills the common list.
+void book(DescriptionMemory &memory, const QStringList &bookings)
 {
-    PaymentData record(2026, 11, 22, category, details, amount, 0);
-    memory.addNewDescription(record);
+    for (const QString &booking : bookings) {
+        if (booking == u"fill"_s) {
+            for (int round = 0; round < 3; ++round) {
+                for (int i = 1; i <= 8; ++i)
+                    book(memory, {u"C%1"_s.arg(i)});
+            }
+            continue;
+        }
+        const QStringList part = booking.split(u'=');
+        const PaymentData record(2026, 11, 22, 2, part.at(0), part.value(1, u"800"_s).toFloat(), 0);
+        memory.addNewDescription(record);
+    }
+}
+
+// "details:count", and ":amount" when it is not the usual 800.
+QStringList shown(const QList<Record> &records)
+{
+    QStringList texts;
+    for (const Record &r : records) {
+        texts.append(u"%1:%2"_s.arg(r.details).arg(r.count)
+                     + (r.amount == 800 ? QString() : u":%1"_s.arg(r.amount)));
+    }
+    return texts;
 }
 
 QStringList detailsOf(const QList<Record> &records)
@@ -26,21 +49,12 @@ QStringList detailsOf(const QList<Record> &records)
     return texts;
 }
 
-QStringList offered(const DescriptionMemory &memory)
+QStringList filledCommon(int last = 1)
 {
     QStringList texts;
-    for (int i = 0; i < memory.numberOfItems(); ++i)
-        texts.append(memory.itemAt(i).details);
+    for (int i = 8; i >= last; --i)
+        texts.append(u"C%1:3"_s.arg(i));
     return texts;
-}
-
-// Eight common descriptions booked three times each, C1 to C8.
-void fillCommonList(DescriptionMemory &memory)
-{
-    for (int round = 0; round < 3; ++round) {
-        for (int i = 1; i <= 8; ++i)
-            book(memory, u"C%1"_s.arg(i));
-    }
 }
 
 } // namespace
@@ -50,160 +64,89 @@ class TestDescriptionMemory : public QObject
     Q_OBJECT
 
 private slots:
-    void firstBookingGoesToTheCommonListOnly();
-    void commonListOrdersByCountAndTiesGoToTheLatest();
-    void fullCommonListKeepsRareDescriptionsRecent();
-    void recentListIsNewestFirstAndHoldsFive();
-    void promotedDescriptionStaysRecentToo();
-    void offeredItemsAreCommonThenRecent();
-    void oversizedStoredCommonListOffersFive();
-    void survivesTheSettings();
+    void bookings_data()
+    {
+        QTest::addColumn<QStringList>("bookings");
+        QTest::addColumn<QStringList>("common");
+        QTest::addColumn<QStringList>("recent");
+        const QStringList fill{u"fill"_s};
+        const QStringList aToF{u"A"_s, u"B"_s, u"C"_s, u"D"_s, u"E"_s, u"F"_s};
+
+        QTest::newRow("first booking is common only") << QStringList{u"Lunch"_s}
+                                                      << QStringList{u"Lunch:1"_s} << QStringList();
+        QTest::newRow("booked again, the last amount; empty never")
+            << QStringList{u"Lunch"_s, u""_s, u"Lunch=950"_s} << QStringList{u"Lunch:2:950"_s}
+            << QStringList();
+        QTest::newRow("ties go to the latest") << QStringList{u"Bread"_s, u"Milk"_s}
+                                               << QStringList{u"Milk:1"_s, u"Bread:1"_s} << QStringList();
+        QTest::newRow("by count; case and spaces differ")
+            << QStringList{u"Bread"_s, u"Milk"_s, u"Bread"_s, u"bread"_s, u"Bread "_s}
+            << QStringList{u"Bread:2"_s, u"Bread :1"_s, u"bread:1"_s, u"Milk:1"_s} << QStringList();
+        QTest::newRow("full common list: a rare one is recent")
+            << fill + QStringList{u"Taxi"_s} << filledCommon() << QStringList{u"Taxi"_s};
+        QTest::newRow("recent: newest first, five") << fill + aToF << filledCommon()
+                                                    << QStringList{u"F"_s, u"E"_s, u"D"_s, u"C"_s, u"B"_s};
+        QTest::newRow("recent booked again comes first")
+            << fill + aToF + QStringList{u"D"_s} << filledCommon()
+            << QStringList{u"D"_s, u"F"_s, u"E"_s, u"C"_s, u"B"_s};
+        // Count 3 ties with the common ones: promoted, and offered twice for a
+        // while, since the recent list keeps it.
+        const QStringList rent{u"Rent"_s, u"Rent"_s, u"Rent"_s};
+        QTest::newRow("promoted, still recent") << fill + rent
+                                                << QStringList{u"Rent:3"_s} + filledCommon(2)
+                                                << QStringList{u"Rent"_s};
+        QTest::newRow("promoted, then pushed out of recent")
+            << fill + rent + aToF.first(5) << QStringList{u"Rent:3"_s} + filledCommon(2)
+            << QStringList{u"E"_s, u"D"_s, u"C"_s, u"B"_s, u"A"_s};
+    }
+
+    void bookings()
+    {
+        QFETCH(QStringList, bookings);
+        QFETCH(QStringList, common);
+        QFETCH(QStringList, recent);
+        DescriptionMemory memory;
+        book(memory, bookings);
+        QCOMPARE(shown(memory.commonDescriptions()), common);
+        QCOMPARE(detailsOf(memory.recentDescriptions()), recent);
+        // The database holds each common record as it is offered, and the
+        // offer is the common ones, then the recent ones.
+        for (const Record &r : memory.commonDescriptions())
+            QCOMPARE(memory.commonDescriptionsDB().value(r.details), r);
+        QStringList offered;
+        for (int i = 0; i < memory.numberOfItems(); ++i)
+            offered.append(memory.itemAt(i).details);
+        QCOMPARE(offered, detailsOf(memory.commonDescriptions()) + recent);
+        QCOMPARE(memory.itemAt(memory.numberOfItems()), Record());
+    }
+
+    void survivesTheSettings()
+    {
+        DescriptionMemory memory;
+        book(memory, {u"fill"_s, u"Taxi=1234.5"_s});
+        memory.writeToDefault();
+        DescriptionMemory readBack;
+        readBack.readRecentItemsFromDefault();
+        QCOMPARE(readBack.commonDescriptions(), memory.commonDescriptions());
+        QCOMPARE(readBack.recentDescriptions(), memory.recentDescriptions());
+        QCOMPARE(readBack.commonDescriptionsDB(), memory.commonDescriptionsDB());
+        QCOMPARE(readBack.recentDescriptions().first().amount, 1234.5f);
+
+        // A stored common list longer than this memory makes is read back
+        // untrimmed, yet offers only five.
+        QVariantList common;
+        for (int i = 0; i < 10; ++i)
+            common.append(Record{u"S%1"_s.arg(i), 0, 1, 10 - i}.toVariantMap());
+        Settings().setCommonDescriptions(common);
+        Settings().setRecentDescriptions({Record{u"R"_s, 1, 2, 1}.toVariantMap()});
+        readBack.readRecentItemsFromDefault();
+        QCOMPARE(readBack.commonDescriptions().size(), 10);
+        QCOMPARE(readBack.numberOfItems(), 6);
+    }
 
 private:
     TestDataFolder m_home;
 };
-
-void TestDescriptionMemory::firstBookingGoesToTheCommonListOnly()
-{
-    DescriptionMemory memory;
-    book(memory, u"Lunch"_s, 2, 800);
-    QCOMPARE(memory.commonDescriptions(), (QList<Record>{Record{u"Lunch"_s, 2, 800, 1}}));
-    QVERIFY(memory.recentDescriptions().isEmpty());
-    QCOMPARE(memory.commonDescriptionsDB().value(u"Lunch"_s), memory.itemAt(0));
-
-    // An empty description is never remembered.
-    book(memory, QString());
-    QCOMPARE(memory.numberOfItems(), 1);
-    QCOMPARE(memory.commonDescriptionsDB().size(), 1);
-
-    // Booked again, the amount and category are replaced.
-    book(memory, u"Lunch"_s, -1, 950);
-    QCOMPARE(memory.numberOfItems(), 1);
-    QCOMPARE(memory.itemAt(0), (Record{u"Lunch"_s, -1, 950, 2}));
-    QCOMPARE(memory.commonDescriptionsDB().value(u"Lunch"_s), memory.itemAt(0));
-}
-
-void TestDescriptionMemory::commonListOrdersByCountAndTiesGoToTheLatest()
-{
-    DescriptionMemory memory;
-    book(memory, u"Bread"_s);
-    book(memory, u"Milk"_s);
-    QCOMPARE(detailsOf(memory.commonDescriptions()), QStringList({u"Milk"_s, u"Bread"_s}));
-
-    book(memory, u"Bread"_s);
-    QCOMPARE(detailsOf(memory.commonDescriptions()), QStringList({u"Bread"_s, u"Milk"_s}));
-    QCOMPARE(memory.commonDescriptions().first().count, 2);
-
-    // Case and spaces make a different description.
-    book(memory, u"bread"_s);
-    book(memory, u"Bread "_s);
-    QCOMPARE(detailsOf(memory.commonDescriptions()),
-             QStringList({u"Bread"_s, u"Bread "_s, u"bread"_s, u"Milk"_s}));
-}
-
-void TestDescriptionMemory::fullCommonListKeepsRareDescriptionsRecent()
-{
-    DescriptionMemory memory;
-    fillCommonList(memory);
-    const QStringList common = detailsOf(memory.commonDescriptions());
-    QCOMPARE(common.size(), DescriptionMemory::maxOfCommonDescriptions);
-
-    book(memory, u"Taxi"_s);
-    QCOMPARE(detailsOf(memory.commonDescriptions()), common);
-    QCOMPARE(detailsOf(memory.recentDescriptions()), QStringList{u"Taxi"_s});
-    QCOMPARE(memory.recentDescriptions().first().count, 1);
-    QCOMPARE(memory.commonDescriptionsDB().value(u"Taxi"_s).count, 1);
-}
-
-void TestDescriptionMemory::recentListIsNewestFirstAndHoldsFive()
-{
-    DescriptionMemory memory;
-    fillCommonList(memory);
-    for (const QString &d : {u"A"_s, u"B"_s, u"C"_s, u"D"_s, u"E"_s, u"F"_s})
-        book(memory, d);
-    QCOMPARE(detailsOf(memory.recentDescriptions()),
-             QStringList({u"F"_s, u"E"_s, u"D"_s, u"C"_s, u"B"_s}));
-
-    // Booking a recent description again moves it to the front, once.
-    book(memory, u"D"_s);
-    QCOMPARE(detailsOf(memory.recentDescriptions()),
-             QStringList({u"D"_s, u"F"_s, u"E"_s, u"C"_s, u"B"_s}));
-}
-
-void TestDescriptionMemory::promotedDescriptionStaysRecentToo()
-{
-    DescriptionMemory memory;
-    fillCommonList(memory);
-    book(memory, u"Rent"_s);
-    book(memory, u"Rent"_s);
-    QCOMPARE(detailsOf(memory.recentDescriptions()), QStringList{u"Rent"_s});
-    QVERIFY(!memory.isCommonDescriptionContainsData({u"Rent"_s}));
-
-    // Count 3 ties with the common entries, and ties go to the latest
-    // booking: Rent is promoted, the last common entry drops out, and Rent
-    // is offered twice for a while.
-    book(memory, u"Rent"_s);
-    QCOMPARE(memory.commonDescriptions().first().details, u"Rent"_s);
-    QCOMPARE(memory.commonDescriptions().first().count, 3);
-    QCOMPARE(memory.commonDescriptions().size(), DescriptionMemory::maxOfCommonDescriptions);
-    QVERIFY(!memory.isCommonDescriptionContainsData({u"C1"_s}));
-    QCOMPARE(offered(memory).count(u"Rent"_s), 2);
-
-    for (const QString &d : {u"A"_s, u"B"_s, u"C"_s, u"D"_s, u"E"_s})
-        book(memory, d);
-    QCOMPARE(offered(memory).count(u"Rent"_s), 1);
-}
-
-void TestDescriptionMemory::offeredItemsAreCommonThenRecent()
-{
-    DescriptionMemory memory;
-    fillCommonList(memory);
-    book(memory, u"Taxi"_s);
-    book(memory, u"Cake"_s);
-    QCOMPARE(memory.numberOfItems(), 10);
-    QStringList expected = detailsOf(memory.commonDescriptions());
-    expected << u"Cake"_s << u"Taxi"_s;
-    QCOMPARE(offered(memory), expected);
-    QCOMPARE(memory.itemAt(10), Record());
-}
-
-void TestDescriptionMemory::oversizedStoredCommonListOffersFive()
-{
-    QVariantList common;
-    for (int i = 0; i < 10; ++i)
-        common.append(Record{u"S%1"_s.arg(i), 0, 1, 10 - i}.toVariantMap());
-    Settings().setCommonDescriptions(common);
-    Settings().setRecentDescriptions({Record{u"R"_s, 1, 2, 1}.toVariantMap()});
-
-    DescriptionMemory memory;
-    memory.readRecentItemsFromDefault();
-    // Read back untrimmed, yet only five of the common ones count.
-    QCOMPARE(memory.commonDescriptions().size(), 10);
-    QCOMPARE(memory.numberOfItems(), 6);
-    Settings().setCommonDescriptions({});
-    Settings().setRecentDescriptions({});
-}
-
-void TestDescriptionMemory::survivesTheSettings()
-{
-    DescriptionMemory memory;
-    fillCommonList(memory);
-    book(memory, u"Taxi"_s, -1, 1234.5f);
-    memory.writeToDefault();
-
-    DescriptionMemory readBack;
-    readBack.readRecentItemsFromDefault();
-    QCOMPARE(readBack.commonDescriptions(), memory.commonDescriptions());
-    QCOMPARE(readBack.recentDescriptions(), memory.recentDescriptions());
-    QCOMPARE(readBack.commonDescriptionsDB(), memory.commonDescriptionsDB());
-    QCOMPARE(readBack.recentDescriptions().first().amount, 1234.5f);
-
-    // Nothing stored reads as empty.
-    Settings().setRecentDescriptions({});
-    DescriptionMemory empty;
-    empty.readRecentItemsFromDefault();
-    QVERIFY(empty.recentDescriptions().isEmpty());
-}
 
 QTEST_GUILESS_MAIN(TestDescriptionMemory)
 #include "tst_descriptionmemory.moc"

@@ -40,8 +40,6 @@ private slots:
     void statements_data();
     void statements();
     void divisionByZeroIsInfinite();
-    void brackets_data();
-    void brackets();
     void localisedMultiplicationSign();
 };
 
@@ -93,30 +91,6 @@ void TestNumberUtility::divisionByZeroIsInfinite()
     const double value = NumberUtility::numberWithCalcurationStatement(u"1/0"_s);
     QVERIFY(std::isinf(value));
     QVERIFY(value > 0);
-}
-
-void TestNumberUtility::brackets_data()
-{
-    QTest::addColumn<QString>("statement");
-    QTest::addColumn<QChar>("open");
-    QTest::addColumn<QChar>("close");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("no brackets") << u"1+2"_s << QChar(u'(') << QChar(u')') << u"1+2"_s;
-    QTest::newRow("other kind left alone") << u"[1+2]"_s << QChar(u'(') << QChar(u')') << u"[1+2]"_s;
-    QTest::newRow("every occurrence at once, six decimals")
-        << u"(1+1)*(1-3)*(1+1)"_s << QChar(u'(') << QChar(u')')
-        << u"2.000000*-2.000000*2.000000"_s;
-    QTest::newRow("unbalanced") << u"(1"_s << QChar(u'(') << QChar(u')') << u"0"_s;
-}
-
-void TestNumberUtility::brackets()
-{
-    QFETCH(QString, statement);
-    QFETCH(QChar, open);
-    QFETCH(QChar, close);
-    QFETCH(QString, expected);
-    QCOMPARE(expandBracketOfStatement(statement, open, close), expected);
 }
 
 void TestNumberUtility::localisedMultiplicationSign()

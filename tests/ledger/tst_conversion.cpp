@@ -6,6 +6,7 @@
 #include "ledger/DataFolder.h"
 #include "ledger/KController.h"
 #include "model/MonthDataList.h"
+#include "model/Notifications.h"
 #include "storage/MonthFile.h"
 
 #include <QDir>
@@ -114,9 +115,12 @@ void TestConversion::everyMonthFileIsRenumbered()
     old.insert(u"Data_2002_5.Penwick"_s, MonthFile::decode(MonthFile::encode(*may), nullptr));
 
     QSignalSpy progress(&controller, &KController::conversionProgress);
+    QSignalSpy announced(Notifications::instance(), &Notifications::dataListHasChanged);
     QString error;
     QVERIFY2(controller.convertStoredData(swapConversion(), &error), qPrintable(error));
     verifyConverted(old);
+    // Each month is sorted and announced once, not once per entry.
+    QCOMPARE(announced.size(), kMonths);
     QCOMPARE(progress.size(), 2 * kMonths);
     QCOMPARE(progress.constLast(), (QVariantList{2 * kMonths, 2 * kMonths}));
 

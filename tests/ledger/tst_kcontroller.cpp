@@ -46,8 +46,6 @@ private slots:
     void editsAddressTheRecordsCurrentMonth();
     void changesAreRecordedAndRestored_data();
     void changesAreRecordedAndRestored();
-    void conversionRenumbersEveryMonthFile();
-    void firstStartSettlesFolderAndLists();
     void closingDayMonths_data();
     void closingDayMonths();
     void closingDayMonthFollowsItsCalendarMonths();
@@ -71,16 +69,18 @@ void TestKController::dataFolderFollowsTheSetting()
     KController controller;
     QCOMPARE(controller.dataFolderPath(), m_folder);
 
-    // Without a chosen folder, the one in Documents is made and used, once
-    // the cache is released.
+    // Without a chosen folder, the first start makes the one in Documents,
+    // with its lists, and names it in the settings; once.
     Settings().setDataPath(QString());
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     QVERIFY(documents.startsWith(m_home.home()));
     const QString expected = QDir(documents).filePath(u"PenwickData"_s);
-    QCOMPARE(DataFolder::dataFolderPath(), expected);
-    QVERIFY(QFileInfo(expected).isDir());
-    QCOMPARE(controller.dataFolderPath(), m_folder);
-    controller.releaseAllDataWithSave(false);
+    QCOMPARE(controller.dataFolderPath(), m_folder); // cached until released or set up
+    QVERIFY(controller.setUpFirstStart());
+    QCOMPARE(Settings().version(), 1);
+    QCOMPARE(Settings().dataPath(), expected);
+    QVERIFY(QFile::exists(expected + u"/Data.penwick"_s));
+    QVERIFY(!controller.setUpFirstStart());
     QCOMPARE(controller.filePathForYear(2006, 5), expected + u"/Data_2006_5.Penwick"_s);
 }
 
@@ -525,36 +525,6 @@ void TestKController::changesAreRecordedAndRestored()
     controller.releaseAllDataWithSave(false);
     QVERIFY(controller.replayChangeJournal());
     QCOMPARE(shown(), before);
-}
-
-void TestKController::conversionRenumbersEveryMonthFile()
-{
-    writeMonthFile(m_folder, 1999, 1, {entry(1999, 1, 1, u"a"_s, 1, 3), entry(1999, 1, 2, u"b"_s, 1, 5)});
-    writeMonthFile(m_folder, 2006, 12, {entry(2006, 12, 1, u"c"_s, 1, 3)});
-    KController controller;
-    QSignalSpy changed(Notifications::instance(), &Notifications::dataListHasChanged);
-    controller.convertCategory(ConversionMap{{3, 2}});
-    // Each month is recalculated and announced once, not once per record.
-    QCOMPARE(changed.size(), 2);
-    controller.releaseAllDataWithSave(false);
-    const auto january = controller.listForYear(1999, 1);
-    QCOMPARE(january->dataListArray().at(0)->category(), 2);
-    QCOMPARE(january->dataListArray().at(1)->category(), 5);
-    QCOMPARE(controller.listForYear(2006, 12)->dataListArray().at(0)->category(), 2);
-    QCOMPARE(january->categorySum().value(2), 1);
-}
-
-void TestKController::firstStartSettlesFolderAndLists()
-{
-    Settings().setDataPath(QString());
-    KController controller;
-    QVERIFY(controller.setUpFirstStart());
-    const Settings settings;
-    QCOMPARE(settings.version(), 1);
-    QVERIFY(settings.dataPath().endsWith(u"/PenwickData"_s));
-    QVERIFY(QFile::exists(settings.dataPath() + u"/Data.penwick"_s));
-    QCOMPARE(controller.dataFolderPath(), settings.dataPath());
-    QVERIFY(!controller.setUpFirstStart()); // only once
 }
 
 void TestKController::closingDayMonths_data()

@@ -28,7 +28,6 @@ private slots:
     void extractionKeysFromScript_data();
     void extractionKeysFromScript();
     void extractionByScriptSelectsRecords();
-    void recordPropertiesForScripts();
     void desktopSearchAcrossMonths_data();
     void desktopSearchAcrossMonths();
     void desktopResultsNameTheirEntry();
@@ -183,19 +182,6 @@ void TestScriptCommands::extractionByScriptSelectsRecords()
 
     ScriptCommands::cancelExtractWithASCommand(*may);
     QCOMPARE(may->extractedArray().size(), 4);
-}
-
-void TestScriptCommands::recordPropertiesForScripts()
-{
-    PaymentData record(2006, 5, 3, 1, u"Bread\tand milk"_s, 12.75f, 0);
-    const QVariantMap properties = ScriptCommands::recordProperties(record);
-    QStringList shown;
-    for (const QString &key : {u"year"_s, u"month"_s, u"date"_s, u"category"_s, u"details"_s,
-                               u"amount"_s, u"payway"_s})
-        shown.append(properties.value(key).toString());
-    QCOMPARE(shown, (QStringList{u"2006"_s, u"5"_s, u"3"_s, u"1"_s, u"Bread\tand milk"_s,
-                                 u"12.75"_s, u"0"_s}));
-    QCOMPARE(properties.value(u"description"_s).toString(), record.descriptionForScript());
 }
 
 namespace {

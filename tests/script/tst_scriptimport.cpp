@@ -13,18 +13,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-ClientRun penwickctl(const QStringList &arguments)
-{
-    return runClient(QStringLiteral(PENWICKCTL_PATH), arguments);
-}
 
 // Three entries over two months, one of them income, and a row whose date
 // cannot be read (line 9).
@@ -45,7 +39,6 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
-    void cleanupTestCase();
 
     void dryRunChangesNothing();
     void importIsBookedOnceAsOneChange();
@@ -59,7 +52,7 @@ private:
     }
 
     TestDataFolder m_home;
-    QProcess m_bus;
+    PrivateBus m_bus;
     QString m_file;
     std::unique_ptr<KAppController> m_app;
     std::unique_ptr<ScriptService> m_service;
@@ -67,11 +60,7 @@ private:
 
 void TestScriptImport::initTestCase()
 {
-    m_bus.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
-    QVERIFY(m_bus.waitForReadyRead(10000));
-    const QByteArray address = m_bus.readLine().trimmed();
-    QVERIFY(!address.isEmpty());
-    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    m_bus.start();
     m_file = QDir(m_home.home()).filePath(u"statement.qif"_s);
     QFile file(m_file);
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -92,12 +81,6 @@ void TestScriptImport::cleanup()
 {
     m_service.reset();
     m_app.reset();
-}
-
-void TestScriptImport::cleanupTestCase()
-{
-    m_bus.kill();
-    m_bus.waitForFinished();
 }
 
 void TestScriptImport::dryRunChangesNothing()

@@ -1,6 +1,7 @@
 #include "ClientRun.h"
 #include "TestDataFolder.h"
 #include "TestHelpers.h"
+#include "WindowHelpers.h"
 
 #include "ScriptService.h"
 #include "SearchService.h"
@@ -15,7 +16,6 @@
 #include "settings/Settings.h"
 #include "storage/DurableFile.h"
 
-#include <QApplication>
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusInterface>
@@ -23,7 +23,6 @@
 #include <QDBusReply>
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
@@ -60,21 +59,6 @@ void bookSearchedEntries(KController &ledger)
                     std::make_shared<PaymentData>(2006, 5, 1, 0, u"Bakery"_s, 80, 0)});
 }
 
-ListWinController *listWindow()
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (auto *list = qobject_cast<ListWinController *>(window); list && list->isVisible())
-            return list;
-    }
-    return nullptr;
-}
-
-ClientRun penwickctl(const QStringList &arguments)
-{
-    return runClient(QStringLiteral(PENWICKCTL_PATH), arguments);
-}
-
 } // namespace
 
 // The scripting service on a private session bus, driven through QtDBus, a
@@ -87,7 +71,6 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
-    void cleanupTestCase();
 
     void dbusCalls_data();
     void dbusCalls();
@@ -103,8 +86,7 @@ private:
     QDBusInterface application();
 
     TestDataFolder m_home;
-    QProcess m_bus;
-    QString m_address;
+    PrivateBus m_bus;
     std::unique_ptr<KAppController> m_app;
     std::unique_ptr<ScriptService> m_service;
     std::unique_ptr<SearchService> m_search;
@@ -112,12 +94,7 @@ private:
 
 void TestScriptService::initTestCase()
 {
-    m_bus.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
-    QVERIFY(m_bus.waitForReadyRead(10000));
-    m_address = QString::fromUtf8(m_bus.readLine()).trimmed();
-    QVERIFY(!m_address.isEmpty());
-    // The clients this test starts find the private bus as their session bus.
-    qputenv("DBUS_SESSION_BUS_ADDRESS", m_address.toUtf8());
+    m_bus.start();
 }
 
 void TestScriptService::init()
@@ -140,12 +117,6 @@ void TestScriptService::cleanup()
     m_service.reset();
     m_app.reset();
     PasswordLock::savePasswordToDefault({});
-}
-
-void TestScriptService::cleanupTestCase()
-{
-    m_bus.kill();
-    m_bus.waitForFinished();
 }
 
 QDBusInterface TestScriptService::application()
@@ -317,7 +288,7 @@ void TestScriptService::lockedProgramAnswersOnlyAnError()
     }
     searchCall(provider, u"org.gnome.Shell.SearchProvider2.ActivateResult"_s, {id, u"['Bakery']"_s, u"0"_s});
     searchCall(runner, u"org.kde.krunner1.Run"_s, {id, u"''"_s});
-    QVERIFY(!listWindow());
+    QVERIFY(visibleTopLevels<ListWinController>().isEmpty());
 }
 
 void TestScriptService::penwickctlRefusesAndWritesNothing_data()
@@ -433,7 +404,7 @@ void TestScriptService::desktopSearchFindsAndShowsTheEntry()
 
     const ClientRun shown = searchCall(path, show, QStringList{id} + arguments);
     QVERIFY2(shown.exitCode == 0, qPrintable(shown.err));
-    ListWinController *list = listWindow();
+    ListWinController *list = visibleTopLevels<ListWinController>().value(0);
     QVERIFY(list);
     QCOMPARE(list->year() * 100 + list->month(), 202412);
     QCOMPARE(list->dataForSelectedRow(), SearchResults::entryForResultID(*m_app->ledger(), id));

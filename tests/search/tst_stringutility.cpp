@@ -43,7 +43,6 @@ private slots:
     void keywordKeys_data();
     void keywordKeys();
     void localizedSeparators();
-    void anyKeyMatching();
     void replacingIgnoresAnEmptyPattern();
 };
 
@@ -111,17 +110,6 @@ void TestStringUtility::localizedSeparators()
     // Keywords keep their minus and wave dash.
     QCOMPARE(separateStringKeyToArray(u"A\u301CB"_s), QStringList{u"A\u301CB"_s});
     QCoreApplication::removeTranslator(&japanese);
-}
-
-void TestStringUtility::anyKeyMatching()
-{
-    const QString text = u"Lunch at work"_s;
-    QVERIFY(stringHasAnyKey(text, {u"dinner"_s, u"work"_s}));
-    QVERIFY(!stringHasAnyKey(text, {u"lunch"_s}));
-    QVERIFY(!stringHasAnyKey(text, {u""_s, u""_s}));
-    QVERIFY(stringHasAnyKey(text, {u""_s, u"at"_s}));
-    QVERIFY(!stringHasAnyKey(QString(), {u"a"_s}));
-    QVERIFY(!stringHasAnyKey(text, {}));
 }
 
 void TestStringUtility::replacingIgnoresAnEmptyPattern()

@@ -21,17 +21,13 @@ QByteArray hex(const char *text)
     return QByteArray::fromHex(text);
 }
 
-const char LittleEndianHeader[] = "040b73747265616d747970656481e803";
 const char BigEndianHeader[] = "040b747970656473747265616d8103e8";
-// Type "@", a new object of class T (version 0) under NSObject: S0 "@", S1 "T",
-// S2 "NSObject"; O0 the object, O1 T, O2 NSObject. Its values follow.
-const char RootOfClassT[] = "840140" "84" "8484015400" "8484084e534f626a65637400" "85";
 
 const TypedStreamClassChain TClasses{{"T", 0}, {"NSObject", 0}};
 
 QByteArray oneValueStream(bool bigEndian, const QByteArray &type, const QByteArray &value)
 {
-    return hex(bigEndian ? BigEndianHeader : LittleEndianHeader) + hex(RootOfClassT) + char(0x84)
+    return hex(bigEndian ? BigEndianHeader : LittleEndianHeaderHex) + hex(RootOfClassTHex) + char(0x84)
         + char(type.size()) + type + value + char(0x86);
 }
 
@@ -108,10 +104,6 @@ class TestTypedStream : public QObject
     Q_OBJECT
 
 private slots:
-    void readsMonthFiles_data();
-    void readsMonthFiles();
-    void colours_data();
-    void colours();
     void integers_data();
     void integers();
     void reals_data();
@@ -125,93 +117,6 @@ private slots:
     void corpusSeedsAndTheirDamage_data();
     void corpusSeedsAndTheirDamage();
 };
-
-void TestTypedStream::readsMonthFiles_data()
-{
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<QByteArray>("arrayClass");
-    QTest::addColumn<bool>("bigEndian");
-    QTest::newRow("NSArray") << hex(LunchMonthArrayHex) << QByteArray("NSArray") << false;
-    QTest::newRow("NSMutableArray")
-        << hex(LunchMonthHex) << QByteArray("NSMutableArray") << false;
-    QTest::newRow("big-endian") << hex(LunchMonthBigEndianHex) << QByteArray("NSArray") << true;
-}
-
-// What the month files are made of, as a generic consumer sees it (the
-// records themselves are checked in the month file's test).
-void TestTypedStream::readsMonthFiles()
-{
-    QFETCH(QByteArray, data);
-    QFETCH(QByteArray, arrayClass);
-    QFETCH(bool, bigEndian);
-
-    const TypedStreamReader reader(data);
-    QVERIFY2(reader.isValid(), qPrintable(reader.errorString()));
-    QCOMPARE(reader.isBigEndian(), bigEndian);
-    QCOMPARE(reader.systemVersion(), 1000);
-    QCOMPARE(reader.topLevelValues().size(), 1u);
-    QCOMPARE(visitAll(reader), 5);
-    const TypedStreamObject *root = reader.rootObject();
-    QCOMPARE(TypedStreamClassChain(root->classChain.begin(), root->classChain.end()),
-             (TypedStreamClassChain{{"MonthDataList", 2}, {"DataList", 1}, {"NSObject", 0}}));
-    const auto *array = std::get<const TypedStreamObject *>(root->values[2].data);
-    QCOMPARE(array->className(), arrayClass);
-    QVERIFY(array->inherits("NSArray"));
-    const auto *record = std::get<const TypedStreamObject *>(array->values[1].data);
-    QCOMPARE(TypedStreamClassChain(record->classChain.begin(), record->classChain.end()),
-             (TypedStreamClassChain{{"PaymentData", 2}, {"NSObject", 0}}));
-    QStringList values;
-    for (const TypedStreamValue &value : record->values)
-        values << describe(value);
-    QCOMPARE(values, (QStringList{"i 2006", "i 5", "i 3", "i 2", "@ NSString", "f 800", "i 0"}));
-    QCOMPARE(reader.versionForClassName("NSString"), 1);
-    QCOMPARE(reader.versionForClassName(arrayClass), 0);
-    QCOMPARE(reader.versionForClassName("NSColor"), std::nullopt);
-}
-
-void TestTypedStream::colours_data()
-{
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<char>("kind");
-    QTest::addColumn<QList<float>>("components");
-    QTest::newRow("blueColor")
-        << hex("040b73747265616d747970656481e803840140848484074e53436f6c6f72008484084e534f626a6563"
-               "740085840163018404666666660000010186")
-        << char(1) << QList<float>{0, 0, 1, 1};
-    QTest::newRow("grayColor")
-        << hex("040b73747265616d747970656481e803840140848484074e53436f6c6f72008484084e534f626a6563"
-               "7400858401630384026666830000003f0186")
-        << char(3) << QList<float>{0.5f, 1};
-    QTest::newRow("blackColor")
-        << hex("040b73747265616d747970656481e803840140848484074e53436f6c6f72008484084e534f626a6563"
-               "74008584016303840266660001" "86")
-        << char(3) << QList<float>{0, 1};
-}
-
-void TestTypedStream::colours()
-{
-    QFETCH(QByteArray, data);
-    QFETCH(char, kind);
-    QFETCH(QList<float>, components);
-
-    const QByteArray written = TypedStreamWriter::archiveRootObject(
-        &data, {{"NSColor", 0}, {"NSObject", 0}}, [&](TypedStreamWriter &w) {
-            w.encodeChar(kind);
-            if (components.size() == 4)
-                w.encodeFloats({components[0], components[1], components[2], components[3]});
-            else
-                w.encodeFloats({components[0], components[1]});
-        });
-    QCOMPARE(written.toHex(), data.toHex());
-
-    const TypedStreamReader reader(data);
-    TypedStreamDecoder top(reader);
-    TypedStreamDecoder colour = top.decoderFor(top.decodeObject());
-    QCOMPARE(colour.decodeChar(), kind);
-    for (const float component : components)
-        QCOMPARE(colour.decodeFloat(), component);
-    QVERIFY2(colour.finish() && top.finish(), qPrintable(colour.errorString()));
-}
 
 void TestTypedStream::integers_data()
 {
@@ -391,7 +296,7 @@ void TestTypedStream::sharedObjectsAndNil()
 
 void TestTypedStream::readsEveryValueKind()
 {
-    const QByteArray data = hex(LittleEndianHeader) + hex(
+    const QByteArray data = hex(LittleEndianHeaderHex) + hex(
         "840140" "84"                            // "@" S0; new object O0
         "84840453696e6b03"                       // class O1 "Sink" (S1) version 3
         "8484084e534f626a65637400" "85"          // class O2 NSObject (S2); end of chain
@@ -484,8 +389,8 @@ void TestTypedStream::refusesMalformedStreams_data()
 {
     QTest::addColumn<QByteArray>("data");
     QTest::addColumn<QString>("error");
-    const QByteArray header = hex(LittleEndianHeader);
-    const QByteArray root = header + hex(RootOfClassT);
+    const QByteArray header = hex(LittleEndianHeaderHex);
+    const QByteArray root = header + hex(RootOfClassTHex);
     const auto row = [](const char *name, const QByteArray &data, const char *error) {
         QTest::newRow(name) << data << QString::fromLatin1(error);
     };

@@ -19,3 +19,9 @@ inline constexpr char LunchMonthBigEndianHex[] =
     "697374018484084e534f626a65637400858401698107d6960592848484074e53417272617900959601928484840b"
     "5061796d656e74446174610295968107d696059603960292848484084e53537472696e67019584012b054c756e63"
     "68868401668103209600868692849b9a046d656d6f8686";
+
+// The header of a little-endian stream; then type "@" and a new object of
+// class T (version 0) under NSObject: S0 "@", S1 "T", S2 "NSObject"; O0 the
+// object, O1 T, O2 NSObject. Its values follow.
+inline constexpr char LittleEndianHeaderHex[] = "040b73747265616d747970656481e803";
+inline constexpr char RootOfClassTHex[] = "840140" "84" "8484015400" "8484084e534f626a65637400" "85";

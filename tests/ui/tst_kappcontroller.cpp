@@ -1,5 +1,6 @@
 #include "TestDataFolder.h"
 #include "TestHelpers.h"
+#include "WindowHelpers.h"
 
 #include "app/KAppController.h"
 #include "input/InputRow.h"
@@ -37,24 +38,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-template <typename T>
-QList<T *> visibleTopLevels()
-{
-    QList<T *> found;
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *typed = qobject_cast<T *>(widget); typed && typed->isVisible())
-            found.append(typed);
-    }
-    return found;
-}
-
-void closeTopLevels()
-{
-    for (QWidget *widget : QApplication::topLevelWidgets())
-        widget->close();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
 
 // A message box by name, whether it stands alone or sits on a window.
 QMessageBox *messageBox(const QString &name)

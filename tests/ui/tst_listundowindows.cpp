@@ -1,5 +1,6 @@
 #include "TestDataFolder.h"
 #include "TestHelpers.h"
+#include "WindowHelpers.h"
 
 #include "app/KAppController.h"
 #include "list/ListWinController.h"
@@ -9,7 +10,6 @@
 #include "settings/Settings.h"
 #include "storage/ListFile.h"
 
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QMenu>
 #include <QMessageBox>
@@ -22,16 +22,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QStringList kCategories{u"Food"_s, u"Rent"_s, u"Fun"_s, u"Income"_s};
-
-template <typename T>
-T *visibleTopLevel()
-{
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *typed = qobject_cast<T *>(widget); typed && typed->isVisible())
-            return typed;
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -63,9 +53,7 @@ void TestListUndoWindows::init()
 
 void TestListUndoWindows::cleanup()
 {
-    for (QWidget *widget : QApplication::topLevelWidgets())
-        widget->close();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    closeTopLevels();
 }
 
 void TestListUndoWindows::theListsAreTakenBackFromAnyWindow()
@@ -73,7 +61,7 @@ void TestListUndoWindows::theListsAreTakenBackFromAnyWindow()
     KAppController controller;
     controller.confirmPassword();
     controller.showListWindow();
-    const QMenu *edit = visibleTopLevel<ListWinController>()->findChild<QMenu *>(u"editMenu"_s);
+    const QMenu *edit = visibleTopLevels<ListWinController>().constFirst()->findChild<QMenu *>(u"editMenu"_s);
     QVERIFY(edit);
     QAction *undo = edit->actions().value(0);
     QAction *redo = edit->actions().value(1);
@@ -81,7 +69,7 @@ void TestListUndoWindows::theListsAreTakenBackFromAnyWindow()
     const auto may = ledger->monthListForYear(2006, 5);
 
     controller.showPrefWindow();
-    auto *preferences = visibleTopLevel<PrefWinController>();
+    auto *preferences = visibleTopLevels<PrefWinController>().value(0);
     QVERIFY(preferences);
     auto *categories = qobject_cast<ListEditorModel *>(
         child<QTableView>(preferences, u"categoryTable"_s)->model());
