@@ -1,5 +1,6 @@
 #include "TestHelpers.h"
 
+#include "budget/BudgetAmount.h"
 #include "budget/BudgetBook.h"
 #include "budget/BudgetCalculation.h"
 #include "budget/BudgetFile.h"
@@ -49,6 +50,7 @@ Q_DECLARE_METATYPE(QList<Booking>)
 Q_DECLARE_METATYPE(QList<Line>)
 Q_DECLARE_METATYPE(std::optional<Line>)
 Q_DECLARE_METATYPE(ConversionMap)
+Q_DECLARE_METATYPE(std::optional<double>)
 
 class TestBudget : public QObject
 {
@@ -61,6 +63,8 @@ private slots:
     void renumbering();
     void unreadableFileIsLeftAlone_data();
     void unreadableFileIsLeftAlone();
+    void typedAmounts_data();
+    void typedAmounts();
 };
 
 void TestBudget::figuresOfAMonth_data()
@@ -211,6 +215,32 @@ void TestBudget::unreadableFileIsLeftAlone()
     QVERIFY(!book.setPlan(BudgetPlan{{{0, budget(10)}}, {}}, &error));
     QVERIFY(error.contains(book.problem()));
     QCOMPARE(readBytes(path), content);
+}
+
+void TestBudget::typedAmounts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<std::optional<double>>("amount");
+    QTest::addColumn<bool>("refused");
+    QTest::newRow("arithmetic") << u" 1,200+350*2 "_s << std::optional(1900.0) << false;
+    QTest::newRow("cents") << u"99.5"_s << std::optional(99.5) << false;
+    QTest::newRow("empty: no budget") << u"  "_s << std::optional<double>() << false;
+    QTest::newRow("a word") << u"12 yen"_s << std::optional<double>() << true;
+    QTest::newRow("no digit") << u"+"_s << std::optional<double>() << true;
+    QTest::newRow("below zero") << u"100-150"_s << std::optional<double>() << true;
+    QTest::newRow("division by zero") << u"5/0"_s << std::optional<double>() << true;
+}
+
+void TestBudget::typedAmounts()
+{
+    QFETCH(QString, text);
+    QFETCH(std::optional<double>, amount);
+    QFETCH(bool, refused);
+    QString problem;
+    QCOMPARE(BudgetAmount::read(text, &problem), amount);
+    QCOMPARE(!problem.isEmpty(), refused);
+    if (amount)
+        QCOMPARE(BudgetAmount::read(BudgetAmount::editingText(*amount), &problem), amount);
 }
 
 QTEST_GUILESS_MAIN(TestBudget)
