@@ -203,7 +203,7 @@ for language in en ja; do
     xdotool windowraise "$window" windowfocus --sync "$window" key ctrl+6
     wait_for_new_window budgets
     shoot budgets
-    xdotool key --window "$window" Escape
+    xdotool windowfocus --sync "$window" key Escape 2>/dev/null || true
 
     # The preferences through the Window menu of the input window.
     "$ctl" show input

@@ -8,8 +8,9 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLocale>
-#include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -29,22 +30,14 @@ QLabel *figure(const QString &text, const QString &objectName, QWidget *parent)
 BudgetPane::BudgetPane(QWidget *parent)
     : QGroupBox(tr("Budget"), parent)
     , m_scroll(new QScrollArea(this))
-    , m_note(new QLabel(this))
 {
     setObjectName(QStringLiteral("budgetPane"));
     m_scroll->setWidgetResizable(true);
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_note->setObjectName(QStringLiteral("budgetNote"));
-    m_note->setWordWrap(true);
-    auto *edit = new QPushButton(tr("Edit Budgets…"), this);
-    edit->setObjectName(QStringLiteral("editBudgetsButton"));
-    connect(edit, &QPushButton::clicked, this, &BudgetPane::editRequested);
-
     auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4, 2, 4, 2);
     layout->addWidget(m_scroll, 1);
-    layout->addWidget(m_note);
-    layout->addWidget(edit, 0, Qt::AlignRight);
     showReport({}, {});
 }
 
@@ -55,28 +48,42 @@ void BudgetPane::showReport(const BudgetCalculation::Report &report, const QStri
     m_categories = categories;
     m_problem = problem;
 
+    // Everything scrolls together, the way to the dialog included, so that a
+    // low pane keeps as many figures in view as it can.
     auto *rows = new QWidget;
     auto *grid = new QGridLayout(rows);
     grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(2);
     grid->setColumnStretch(1, 1);
+    auto *edit = new QToolButton(rows);
+    edit->setObjectName(QStringLiteral("editBudgetsButton"));
+    edit->setText(tr("Edit Budgets…"));
+    connect(edit, &QToolButton::clicked, this, &BudgetPane::editRequested);
     if (report.total) {
-        grid->addWidget(figure(tr("Spent / Budget"), {}, rows), 0, 2);
-        grid->addWidget(figure(tr("Left"), {}, rows), 0, 3);
+        grid->addWidget(edit, 0, 0, 1, 2, Qt::AlignLeft);
+        grid->addWidget(figure(tr("Spent"), {}, rows), 0, 2);
+        grid->addWidget(figure(tr("Budget"), {}, rows), 0, 3);
+        grid->addWidget(figure(tr("Left"), {}, rows), 0, 4);
         addRow(grid, 1, tr("All spending"), *report.total);
         int row = 2;
         for (const BudgetCalculation::Line &line : report.categories)
             addRow(grid, row++, categories.value(line.category, QString::number(line.category)),
                    line);
+    } else {
+        auto *note = new QLabel(problem.isEmpty()
+                                    ? tr("No budgets set.")
+                                    : tr("The budgets cannot be read: %1").arg(problem),
+                                rows);
+        note->setObjectName(QStringLiteral("budgetNote"));
+        note->setWordWrap(true);
+        grid->addWidget(note, 0, 0, 1, 5);
+        grid->addWidget(edit, 1, 0, 1, 5, Qt::AlignLeft);
     }
     grid->setRowStretch(grid->rowCount(), 1);
     m_scroll->setWidget(rows);
-    m_scroll->setVisible(report.total.has_value());
-
-    if (!problem.isEmpty())
-        m_note->setText(tr("The budgets cannot be read: %1").arg(problem));
-    else if (!report.total)
-        m_note->setText(tr("No budgets set."));
-    m_note->setVisible(!problem.isEmpty() || !report.total);
+    // As wide as the figures need: the memo beside gives way, not they.
+    m_scroll->setMinimumWidth(rows->sizeHint().width()
+                              + m_scroll->verticalScrollBar()->sizeHint().width());
 }
 
 void BudgetPane::addRow(QGridLayout *grid, int row, const QString &name,
@@ -93,7 +100,6 @@ void BudgetPane::addRow(QGridLayout *grid, int row, const QString &name,
     auto *bar = new BudgetBar(rows);
     bar->setObjectName(QStringLiteral("budgetBar_") + key);
     bar->setShare(line.share());
-    const QString spent = tr("%1 / %2").arg(amountText(line.spent), amountText(line.available()));
     auto *left = figure(amountText(line.left()), QStringLiteral("budgetLeft_") + key, rows);
     if (line.left() < 0) {
         QPalette palette = left->palette();
@@ -116,8 +122,12 @@ void BudgetPane::addRow(QGridLayout *grid, int row, const QString &name,
 
     grid->addWidget(label, row, 0);
     grid->addWidget(bar, row, 1);
-    grid->addWidget(figure(spent, QStringLiteral("budgetSpent_") + key, rows), row, 2);
-    grid->addWidget(left, row, 3);
+    grid->addWidget(figure(amountText(line.spent), QStringLiteral("budgetSpent_") + key, rows), row,
+                    2);
+    grid->addWidget(figure(amountText(line.available()), QStringLiteral("budgetAmount_") + key,
+                           rows),
+                    row, 3);
+    grid->addWidget(left, row, 4);
 }
 
 void BudgetPane::changeEvent(QEvent *event)

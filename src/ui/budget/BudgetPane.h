@@ -5,12 +5,10 @@
 #include <QGroupBox>
 
 class QGridLayout;
-class QLabel;
 class QScrollArea;
 
 // The month's budgets under the list: per budgeted category, and for all
-// spending, a bar of what is spent with the figures spent / budget and
-// what is left.
+// spending, a bar of what is spent, and the figures spent, budget and left.
 class BudgetPane : public QGroupBox
 {
     Q_OBJECT
@@ -34,7 +32,6 @@ private:
                 const BudgetCalculation::Line &line);
 
     QScrollArea *m_scroll;
-    QLabel *m_note;
     BudgetCalculation::Report m_report;
     QStringList m_categories;
     QString m_problem;

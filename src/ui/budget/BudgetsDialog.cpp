@@ -55,7 +55,7 @@ BudgetsDialog::BudgetsDialog(BudgetBook *book, const QStringList &categories, QW
 
     const QDate today = QDate::currentDate();
     setMonth(today.year(), today.month());
-    resize(560, 420);
+    resize(560, 480);
 
     if (!m_book->problem().isEmpty()) {
         m_message->setText(tr("The budgets cannot be read, so they cannot be changed: %1")
