@@ -72,10 +72,6 @@
             <translation>Edit Budgets…</translation>
         </message>
         <message>
-            <source>Spent / Budget</source>
-            <translation>Spent / Budget</translation>
-        </message>
-        <message>
             <source>Left</source>
             <translation>Left</translation>
         </message>
@@ -92,10 +88,6 @@
             <translation>No budgets set.</translation>
         </message>
         <message>
-            <source>%1 / %2</source>
-            <translation>%1 / %2</translation>
-        </message>
-        <message>
             <source>%1 spent of %2 (%3 %)</source>
             <translation>%1 spent of %2 (%3 %)</translation>
         </message>
@@ -106,6 +98,10 @@
         <message>
             <source>This month: %1; carried over: %2</source>
             <translation>This month: %1; carried over: %2</translation>
+        </message>
+        <message>
+            <source>Spent</source>
+            <translation>Spent</translation>
         </message>
     </context>
     <context>

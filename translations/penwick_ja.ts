@@ -72,10 +72,6 @@
             <translation>予算を編集…</translation>
         </message>
         <message>
-            <source>Spent / Budget</source>
-            <translation>支出 / 予算</translation>
-        </message>
-        <message>
             <source>Left</source>
             <translation>残り</translation>
         </message>
@@ -92,10 +88,6 @@
             <translation>予算は設定されていません。</translation>
         </message>
         <message>
-            <source>%1 / %2</source>
-            <translation>%1 / %2</translation>
-        </message>
-        <message>
             <source>%1 spent of %2 (%3 %)</source>
             <translation>%2 のうち %1 を支出（%3 %）</translation>
         </message>
@@ -106,6 +98,10 @@
         <message>
             <source>This month: %1; carried over: %2</source>
             <translation>今月分: %1、繰り越し: %2</translation>
+        </message>
+        <message>
+            <source>Spent</source>
+            <translation>支出</translation>
         </message>
     </context>
     <context>

@@ -10,18 +10,26 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include <cmath>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace BudgetCommand {
 
 namespace {
 
+// To cents: entries are single precision, and more digits would be noise.
+double cents(double amount)
+{
+    return std::round(amount * 100.0) / 100.0;
+}
+
 QJsonObject figuresOf(const BudgetCalculation::Line &line)
 {
-    return {{u"spent"_s, line.spent},
-            {u"budget"_s, line.available()},
-            {u"carried"_s, line.carried},
-            {u"left"_s, line.left()}};
+    return {{u"spent"_s, cents(line.spent)},
+            {u"budget"_s, cents(line.available())},
+            {u"carried"_s, cents(line.carried)},
+            {u"left"_s, cents(line.left())}};
 }
 
 } // namespace

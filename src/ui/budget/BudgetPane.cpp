@@ -52,7 +52,8 @@ void BudgetPane::showReport(const BudgetCalculation::Report &report, const QStri
     // low pane keeps as many figures in view as it can.
     auto *rows = new QWidget;
     auto *grid = new QGridLayout(rows);
-    grid->setContentsMargins(0, 0, 0, 0);
+    // A little room between the last figure and the scroll bar.
+    grid->setContentsMargins(0, 0, 4, 0);
     grid->setVerticalSpacing(2);
     grid->setColumnStretch(1, 1);
     auto *edit = new QToolButton(rows);

@@ -37,6 +37,9 @@ BudgetsDialog::BudgetsDialog(BudgetBook *book, const QStringList &categories, QW
     m_table->horizontalHeader()->setSectionResizeMode(Name, QHeaderView::Stretch);
     for (const int column : {Amount, ThisMonth, RollOver})
         m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    // A header wider than its cells (Japanese "Roll Over") keeps its room.
+    m_table->horizontalHeader()->setMinimumSectionSize(
+        m_table->fontMetrics().horizontalAdvance(QStringLiteral("0000000000")));
     connect(m_table, &QTableWidget::itemChanged, this, &BudgetsDialog::checkCell);
 
     m_message->setObjectName(QStringLiteral("budgetMessage"));
@@ -55,7 +58,7 @@ BudgetsDialog::BudgetsDialog(BudgetBook *book, const QStringList &categories, QW
 
     const QDate today = QDate::currentDate();
     setMonth(today.year(), today.month());
-    resize(560, 480);
+    resize(600, 480);
 
     if (!m_book->problem().isEmpty()) {
         m_message->setText(tr("The budgets cannot be read, so they cannot be changed: %1")
