@@ -7,7 +7,9 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace BudgetFile {
 
