@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Takes a picture of every window of the program (input, list, the three
-# charts, balance, preferences, password prompt) in English and Japanese,
+# charts, the line chart with budgets, balance, budgets, preferences,
+# password prompt) in English and Japanese,
 # light and dark, on a generated data folder, as a user would see them on a
 # fresh start. Runs on a virtual X server and a session bus of its own, with
 # a home of its own, so nothing of the user's is read or changed.
@@ -86,6 +87,29 @@ pids+=("$bus_pid")
 this_year=$(date +%Y)
 "$make_ledger" --first-year $((this_year - 1)) --years 2 --per-month 30 "$HOME/data" >/dev/null
 
+# Budgets for a few categories and for all spending, so that the list
+# window's budget pane, the balance window and the line chart show them.
+last_month=$(date -d "$(date +%Y-%m-15) -1 month" +%Y%m)
+budget() {
+  printf '<dict><key>Category</key><integer>%s</integer><key>Amount</key><real>%s</real>' "$1" "$2"
+  if [[ -n ${3:-} ]]; then
+    printf '<key>RollOver</key><true/><key>RollOverSince</key><integer>%s</integer>' "$3"
+  else
+    printf '<key>RollOver</key><false/>'
+  fi
+  printf '</dict>'
+}
+{
+  printf '<?xml version="1.0" encoding="UTF-8"?>\n<plist version="1.0"><dict><key>Categories</key><array>'
+  budget 0 40000
+  budget 1 15000 "$last_month"
+  budget 2 12000
+  budget 3 20000
+  budget 7 9000
+  printf '</array><key>AllSpending</key><dict><key>Amount</key><real>150000</real>'
+  printf '<key>RollOver</key><false/></dict></dict></plist>\n'
+} >"$HOME/data/Budgets.plist"
+
 settings() {
   printf '[General]\nVersion=1\nDataPath=%s\n%s' "$HOME/data" "${1:-}" \
     >"$XDG_CONFIG_HOME/Penwick/Penwick.conf"
@@ -165,10 +189,21 @@ for language in en ja; do
     shoot bar
     xdotool key --window "$window" Down
     shoot line
+    # The budgets as dashed lines, by the check box's mnemonic.
+    xdotool key --window "$window" alt+u
+    shoot line-budget
 
     "$ctl" show balance
     wait_for_new_window balance
     shoot balance
+
+    # The Budgets dialog, by its shortcut in the list window.
+    "$ctl" show list
+    window=${known[1]}
+    xdotool windowraise "$window" windowfocus --sync "$window" key ctrl+6
+    wait_for_new_window budgets
+    shoot budgets
+    xdotool windowfocus --sync "$window" key Escape 2>/dev/null || true
 
     # The preferences through the Window menu of the input window.
     "$ctl" show input

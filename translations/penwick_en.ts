@@ -15,6 +15,137 @@
             <source>Income</source>
             <translation>Income</translation>
         </message>
+        <message>
+            <source>Budget</source>
+            <translation>Budget</translation>
+        </message>
+        <message>
+            <source>Left</source>
+            <translation>Left</translation>
+        </message>
+    </context>
+    <context>
+        <name>BudgetAmount</name>
+        <message>
+            <source>&quot;%1&quot; is not an amount.</source>
+            <translation>&quot;%1&quot; is not an amount.</translation>
+        </message>
+        <message>
+            <source>A budget cannot be below zero.</source>
+            <translation>A budget cannot be below zero.</translation>
+        </message>
+    </context>
+    <context>
+        <name>BudgetBook</name>
+        <message>
+            <source>The budget file %1 cannot be read (%2); mend or remove it first.</source>
+            <translation>The budget file %1 cannot be read (%2); mend or remove it first.</translation>
+        </message>
+    </context>
+    <context>
+        <name>BudgetFile</name>
+        <message>
+            <source>It holds no dictionary of budgets.</source>
+            <translation>It holds no dictionary of budgets.</translation>
+        </message>
+        <message>
+            <source>Its budgets by category are not a list.</source>
+            <translation>Its budgets by category are not a list.</translation>
+        </message>
+        <message>
+            <source>A budget of a category cannot be read.</source>
+            <translation>A budget of a category cannot be read.</translation>
+        </message>
+        <message>
+            <source>The budget of all spending cannot be read.</source>
+            <translation>The budget of all spending cannot be read.</translation>
+        </message>
+    </context>
+    <context>
+        <name>BudgetPane</name>
+        <message>
+            <source>Budget</source>
+            <translation>Budget</translation>
+        </message>
+        <message>
+            <source>Edit Budgets…</source>
+            <translation>Edit Budgets…</translation>
+        </message>
+        <message>
+            <source>Left</source>
+            <translation>Left</translation>
+        </message>
+        <message>
+            <source>All spending</source>
+            <translation>All spending</translation>
+        </message>
+        <message>
+            <source>The budgets cannot be read: %1</source>
+            <translation>The budgets cannot be read: %1</translation>
+        </message>
+        <message>
+            <source>No budgets set.</source>
+            <translation>No budgets set.</translation>
+        </message>
+        <message>
+            <source>%1 spent of %2 (%3 %)</source>
+            <translation>%1 spent of %2 (%3 %)</translation>
+        </message>
+        <message>
+            <source>%1 spent of nothing</source>
+            <translation>%1 spent of nothing</translation>
+        </message>
+        <message>
+            <source>This month: %1; carried over: %2</source>
+            <translation>This month: %1; carried over: %2</translation>
+        </message>
+        <message>
+            <source>Spent</source>
+            <translation>Spent</translation>
+        </message>
+    </context>
+    <context>
+        <name>BudgetsDialog</name>
+        <message>
+            <source>Budgets</source>
+            <translation>Budgets</translation>
+        </message>
+        <message>
+            <source>Leave an amount empty for no budget. What is left of a budget that rolls over, or what it overspent, goes into the next month&apos;s.</source>
+            <translation>Leave an amount empty for no budget. What is left of a budget that rolls over, or what it overspent, goes into the next month&apos;s.</translation>
+        </message>
+        <message>
+            <source>The budgets cannot be read, so they cannot be changed: %1</source>
+            <translation>The budgets cannot be read, so they cannot be changed: %1</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Every Month</source>
+            <translation>Every Month</translation>
+        </message>
+        <message>
+            <source>%1 %2</source>
+            <translation>%1 %2</translation>
+        </message>
+        <message>
+            <source>Roll Over</source>
+            <translation>Roll Over</translation>
+        </message>
+        <message>
+            <source>All spending</source>
+            <translation>All spending</translation>
+        </message>
+        <message>
+            <source>Rolling over since %1/%2</source>
+            <translation>Rolling over since %1/%2</translation>
+        </message>
+        <message>
+            <source>The budgets could not be saved: %1</source>
+            <translation>The budgets could not be saved: %1</translation>
+        </message>
     </context>
     <context>
         <name>CheckPopUpButton</name>
@@ -206,6 +337,14 @@
             <comment>printed heading: month, chart</comment>
             <translation>%1 — %2</translation>
         </message>
+        <message>
+            <source>B&amp;udget</source>
+            <translation>B&amp;udget</translation>
+        </message>
+        <message>
+            <source>Draw each category&apos;s budget as a dashed line</source>
+            <translation>Draw each category&apos;s budget as a dashed line</translation>
+        </message>
     </context>
     <context>
         <name>InputRow</name>
@@ -342,6 +481,10 @@
         <message>
             <source>All files (*)</source>
             <translation>All files (*)</translation>
+        </message>
+        <message>
+            <source>B&amp;udgets…</source>
+            <translation>B&amp;udgets…</translation>
         </message>
     </context>
     <context>
@@ -1082,6 +1225,10 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>&apos;%1&apos; is not csv, qif, ofx or xhb</source>
             <translation>&apos;%1&apos; is not csv, qif, ofx or xhb</translation>
+        </message>
+        <message>
+            <source>&apos;%1&apos; is not a month (YYYYMM)</source>
+            <translation>&apos;%1&apos; is not a month (YYYYMM)</translation>
         </message>
     </context>
     <context>

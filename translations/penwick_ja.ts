@@ -15,6 +15,137 @@
             <source>Income</source>
             <translation>収入</translation>
         </message>
+        <message>
+            <source>Budget</source>
+            <translation>予算</translation>
+        </message>
+        <message>
+            <source>Left</source>
+            <translation>残り</translation>
+        </message>
+    </context>
+    <context>
+        <name>BudgetAmount</name>
+        <message>
+            <source>&quot;%1&quot; is not an amount.</source>
+            <translation>「%1」は金額ではありません。</translation>
+        </message>
+        <message>
+            <source>A budget cannot be below zero.</source>
+            <translation>予算を0未満にはできません。</translation>
+        </message>
+    </context>
+    <context>
+        <name>BudgetBook</name>
+        <message>
+            <source>The budget file %1 cannot be read (%2); mend or remove it first.</source>
+            <translation>予算ファイル %1 を読み込めません（%2）。先に修復するか削除してください。</translation>
+        </message>
+    </context>
+    <context>
+        <name>BudgetFile</name>
+        <message>
+            <source>It holds no dictionary of budgets.</source>
+            <translation>予算の辞書がありません。</translation>
+        </message>
+        <message>
+            <source>Its budgets by category are not a list.</source>
+            <translation>分類ごとの予算がリストになっていません。</translation>
+        </message>
+        <message>
+            <source>A budget of a category cannot be read.</source>
+            <translation>分類の予算を読み込めません。</translation>
+        </message>
+        <message>
+            <source>The budget of all spending cannot be read.</source>
+            <translation>支出全体の予算を読み込めません。</translation>
+        </message>
+    </context>
+    <context>
+        <name>BudgetPane</name>
+        <message>
+            <source>Budget</source>
+            <translation>予算</translation>
+        </message>
+        <message>
+            <source>Edit Budgets…</source>
+            <translation>予算を編集…</translation>
+        </message>
+        <message>
+            <source>Left</source>
+            <translation>残り</translation>
+        </message>
+        <message>
+            <source>All spending</source>
+            <translation>支出全体</translation>
+        </message>
+        <message>
+            <source>The budgets cannot be read: %1</source>
+            <translation>予算を読み込めません: %1</translation>
+        </message>
+        <message>
+            <source>No budgets set.</source>
+            <translation>予算は設定されていません。</translation>
+        </message>
+        <message>
+            <source>%1 spent of %2 (%3 %)</source>
+            <translation>%2 のうち %1 を支出（%3 %）</translation>
+        </message>
+        <message>
+            <source>%1 spent of nothing</source>
+            <translation>予算なしで %1 を支出</translation>
+        </message>
+        <message>
+            <source>This month: %1; carried over: %2</source>
+            <translation>今月分: %1、繰り越し: %2</translation>
+        </message>
+        <message>
+            <source>Spent</source>
+            <translation>支出</translation>
+        </message>
+    </context>
+    <context>
+        <name>BudgetsDialog</name>
+        <message>
+            <source>Budgets</source>
+            <translation>予算</translation>
+        </message>
+        <message>
+            <source>Leave an amount empty for no budget. What is left of a budget that rolls over, or what it overspent, goes into the next month&apos;s.</source>
+            <translation>予算を設けない分類は金額を空欄にしてください。繰り越す予算の残り（または超過分）は翌月の予算に加わります。</translation>
+        </message>
+        <message>
+            <source>The budgets cannot be read, so they cannot be changed: %1</source>
+            <translation>予算を読み込めないため、変更できません: %1</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Every Month</source>
+            <translation>毎月</translation>
+        </message>
+        <message>
+            <source>%1 %2</source>
+            <translation>%2年%1</translation>
+        </message>
+        <message>
+            <source>Roll Over</source>
+            <translation>繰り越し</translation>
+        </message>
+        <message>
+            <source>All spending</source>
+            <translation>支出全体</translation>
+        </message>
+        <message>
+            <source>Rolling over since %1/%2</source>
+            <translation>%2年%1月から繰り越し</translation>
+        </message>
+        <message>
+            <source>The budgets could not be saved: %1</source>
+            <translation>予算を保存できませんでした: %1</translation>
+        </message>
     </context>
     <context>
         <name>CheckPopUpButton</name>
@@ -205,6 +336,14 @@
             <comment>printed heading: month, chart</comment>
             <translation>%1 — %2</translation>
         </message>
+        <message>
+            <source>B&amp;udget</source>
+            <translation>予算(&amp;U)</translation>
+        </message>
+        <message>
+            <source>Draw each category&apos;s budget as a dashed line</source>
+            <translation>各分類の予算を破線で描く</translation>
+        </message>
     </context>
     <context>
         <name>InputRow</name>
@@ -341,6 +480,10 @@
         <message>
             <source>All files (*)</source>
             <translation>すべてのファイル (*)</translation>
+        </message>
+        <message>
+            <source>B&amp;udgets…</source>
+            <translation>予算(&amp;U)…</translation>
         </message>
     </context>
     <context>
@@ -1079,6 +1222,10 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>&apos;%1&apos; is not csv, qif, ofx or xhb</source>
             <translation>&apos;%1&apos; は csv、qif、ofx、xhb のいずれでもありません</translation>
+        </message>
+        <message>
+            <source>&apos;%1&apos; is not a month (YYYYMM)</source>
+            <translation>「%1」は月（YYYYMM）ではありません</translation>
         </message>
     </context>
     <context>

@@ -2,6 +2,7 @@
 
 #include "CommandLine.h"
 
+#include "budget/BudgetAmount.h"
 #include "entry/EntryCheck.h"
 #include "model/EntryLimits.h"
 #include "model/NumberValue.h"
@@ -215,6 +216,8 @@ QList<AppCommands::Command> AppCommands::commands()
         {u"sort"_s, tr("Sort a month's selected entries and print them."), &sort},
         {u"export"_s, tr("Write the entries of a month, a year or all as CSV."), &exportCsv},
         {u"import"_s, tr("Book the entries of a CSV, QIF, OFX or HomeBank file."), &importFile},
+        {u"budget"_s, tr("Print a month's spending, budget and what is left per category."),
+         &budget},
     };
 }
 
@@ -594,6 +597,58 @@ int AppCommands::importFile(const QStringList &arguments)
                     .toUtf8()
             + '\n';
     }
+    CommandLine::printOut(text);
+    return CommandLine::Success;
+}
+
+int AppCommands::budget(const QStringList &arguments)
+{
+    const QString command = u"budget"_s;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        tr("Prints, per budgeted category and for all spending, what the month spent, its "
+           "budget (what rolled over from earlier months included) and what is left, "
+           "separated by tabs. Without a month, this month."));
+    parser.addPositionalArgument(u"MONTH"_s, tr("A month, as 200605."), u"[YYYYMM]"_s);
+    parser.addOption(jsonOption);
+    if (const auto status = CommandLine::parse(parser, command, arguments))
+        return *status;
+    const QStringList months = parser.positionalArguments();
+    if (months.size() > 1)
+        return CommandLine::usageError(command, tr("give one month"));
+    const QString month = months.value(0);
+    static const QRegularExpression pattern(u"^\\d{6}$"_s);
+    if (!month.isEmpty() && (!pattern.match(month).hasMatch() || !parseMonth(month)))
+        return CommandLine::usageError(command, tr("'%1' is not a month (YYYYMM)").arg(month));
+    const auto reply = callApplication(command, u"BudgetOfMonth"_s, {month});
+    if (!reply || reply->isEmpty())
+        return CommandLine::Failure;
+    const QJsonObject report =
+        QJsonDocument::fromJson(reply->constFirst().toString().toUtf8()).object();
+    if (parser.isSet(jsonOption)) {
+        CommandLine::printOut(QJsonDocument(report).toJson(QJsonDocument::Indented));
+        return CommandLine::Success;
+    }
+    if (const QString problem = report.value(u"problem"_s).toString(); !problem.isEmpty())
+        CommandLine::printError(tr("%1: the budgets cannot be read: %2").arg(command, problem));
+    const auto amount = [](const QJsonObject &line, const QString &key) {
+        return BudgetAmount::editingText(line.value(key).toDouble());
+    };
+    const auto lineOf = [&amount](const QString &name, const QJsonObject &line) {
+        return u"%1\t%2\t%3\t%4\n"_s
+            .arg(CommandLine::escaped(name), amount(line, u"spent"_s), amount(line, u"budget"_s),
+                 amount(line, u"left"_s))
+            .toUtf8();
+    };
+    QByteArray text = u"%1\t%2\t%3\t%4\n"_s
+                          .arg(tr("Category"), tr("Spent"), tr("Budget"), tr("Left"))
+                          .toUtf8();
+    for (const QJsonValue &value : report.value(u"categories"_s).toArray()) {
+        const QJsonObject line = value.toObject();
+        text += lineOf(line.value(u"category"_s).toString(), line);
+    }
+    if (report.contains(u"total"_s))
+        text += lineOf(tr("All spending"), report.value(u"total"_s).toObject());
     CommandLine::printOut(text);
     return CommandLine::Success;
 }

@@ -6,6 +6,7 @@
 #include "exchange/LedgerImport.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
+#include "script/BudgetCommand.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptHost.h"
 #include "script/ScriptNames.h"
@@ -184,4 +185,17 @@ QString ScriptApplication::ImportFile(const QString &path, const QVariantMap &op
     }
     return QString::fromUtf8(
         QJsonDocument(import.toJson(import.report(), dryRun)).toJson(QJsonDocument::Compact));
+}
+
+QString ScriptApplication::BudgetOfMonth(const QString &month)
+{
+    KController *open = ledger();
+    if (!open)
+        return {};
+    const auto key = BudgetCommand::monthNamed(month);
+    if (!key) {
+        sendErrorReply(ScriptNames::InvalidArgsError, tr("'%1' is not a month (YYYYMM)").arg(month));
+        return {};
+    }
+    return QString::fromUtf8(BudgetCommand::reportJson(*open, *key / 100, *key % 100));
 }

@@ -1,5 +1,6 @@
 #include "ledger/KController.h"
 
+#include "budget/BudgetBook.h"
 #include "ledger/ConversionJournal.h"
 #include "ledger/DataFolder.h"
 #include "ledger/MonthMerge.h"
@@ -84,7 +85,14 @@ QByteArray encodeConverted(const MonthDataList &month, const ListConversion &con
 KController::KController(QObject *parent)
     : QObject(parent)
     , m_sharedFolder(new SharedFolder(this))
+    , m_budgets(new BudgetBook(this))
 {
+    // After a renumbering or a change of folder, the budgets as the folder
+    // now holds them.
+    connect(Notifications::instance(), &Notifications::listPreferenceHasUpDated, this, [this] {
+        if (m_budgets->isLoaded())
+            m_budgets->load(dataFolderPath());
+    });
     connect(m_sharedFolder, &SharedFolder::changed, this, &KController::takeOutsideChanges);
     m_saveTimer.setSingleShot(true);
     m_saveTimer.setInterval(kSaveDelayMs);
@@ -112,6 +120,14 @@ QString KController::dataFolderPath()
             startWatchingSharedFolder();
     }
     return m_dataFolder;
+}
+
+BudgetBook *KController::budgets()
+{
+    const QString folder = dataFolderPath();
+    if (!m_budgets->isLoaded() || m_budgets->folder() != folder)
+        m_budgets->load(folder);
+    return m_budgets;
 }
 
 QString KController::filePathForYear(int year, int month)

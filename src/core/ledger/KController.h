@@ -15,6 +15,7 @@
 #include <memory>
 #include <optional>
 
+class BudgetBook;
 class ChangeJournal;
 class MonthDataList;
 
@@ -224,6 +225,10 @@ public:
     bool bookImport(const PaymentArray &records, QString *error = nullptr,
                     const ImportProgress &progress = {});
 
+    // The budgets of the data folder, loaded with it and read again when the
+    // lists or the folder change.
+    BudgetBook *budgets();
+
 signals:
     // Emitted before the edited months are written, so that a window can hand
     // over what it still holds (a memo being typed).
@@ -352,5 +357,6 @@ private:
     bool m_recording = true;
 
     SharedFolder *m_sharedFolder;
+    BudgetBook *m_budgets;
     bool m_watchShared = false;
 };

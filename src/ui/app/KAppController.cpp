@@ -2,6 +2,7 @@
 #include "app/LedgerAlerts.h"
 
 #include "balance/BalanceWinController.h"
+#include "budget/BudgetsDialog.h"
 #include "exchange/ImportDialog.h"
 #include "graph/GraphWinController.h"
 #include "input/InputWinController.h"
@@ -76,6 +77,8 @@ void KAppController::createActions()
                     &KAppController::showGraphWindow);
     addWindowAction(tr("&Balance Window"), BalanceWindowTag, QKeySequence(Qt::CTRL | Qt::Key_4),
                     &KAppController::showBalanceListWindow);
+    addWindowAction(tr("B&udgets…"), BudgetsTag, QKeySequence(Qt::CTRL | Qt::Key_6),
+                    &KAppController::showBudgets);
 
     m_preferencesAction = new QAction(tr("&Preferences…"), this);
     m_preferencesAction->setShortcut(QKeySequence::Preferences);
@@ -112,6 +115,7 @@ bool KAppController::validateMenuItem(const QAction *item) const
     case ListWindowTag:
     case GraphWindowTag:
     case BalanceWindowTag:
+    case BudgetsTag:
     case ImportTag:
         return m_running;
     default:
@@ -376,6 +380,8 @@ void KAppController::showListWindow()
         offerImport(myListWinController, installMenuBar(myListWinController));
         connect(myListWinController, &ListWinController::inputWindowRequested, this,
                 &KAppController::showInputWindowWithYear);
+        connect(myListWinController, &ListWinController::budgetsRequested, this,
+                &KAppController::showBudgets);
     }
     if (myBalanceWinController)
         myBalanceWinController->showDataOfYear(myListWinController->year(),
@@ -432,6 +438,18 @@ void KAppController::showPrefWindow()
                 &KAppController::showInputWindow);
     }
     bringToFront(myPrefWinController);
+}
+
+void KAppController::showBudgets()
+{
+    if (!m_running)
+        return;
+    auto *dialog = new BudgetsDialog(m_ledger->budgets(), m_ledger->categoryList(),
+                                     QApplication::activeWindow());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    if (myListWinController)
+        dialog->setMonth(myListWinController->year(), myListWinController->month());
+    dialog->open();
 }
 
 void KAppController::showWindow(Window window)

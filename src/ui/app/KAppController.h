@@ -35,7 +35,7 @@ public:
     // Menu items whose tag is one of these act on the account book and stay
     // disabled until start-up has passed the password.
     enum MenuTag { InputWindowTag = 102, ListWindowTag = 404, GraphWindowTag = 405,
-                   BalanceWindowTag = 406, ImportTag = 407 };
+                   BalanceWindowTag = 406, ImportTag = 407, BudgetsTag = 420 };
 
     explicit KAppController(QObject *parent = nullptr);
     ~KAppController() override;
@@ -92,6 +92,8 @@ public:
     void showGraphWindow();
     void showBalanceListWindow();
     void showPrefWindow();
+    // The budgets of the list window's month (this month without one).
+    void showBudgets();
     // Shows the month in the list window, opening it if need be, with the
     // search cleared; the variants then select one category or payway.
     void showListOfYear(int year, int month);

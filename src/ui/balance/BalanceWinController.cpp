@@ -1,5 +1,6 @@
 #include "balance/BalanceWinController.h"
 
+#include "budget/BudgetBook.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
 #include "model/NumberValue.h"
@@ -53,10 +54,12 @@ BalanceWinController::BalanceWinController(KController *controller, QWidget *par
         box->setObjectName(QStringLiteral("box%1").arg(offset));
         auto *form = new QFormLayout(box);
         form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-        Box entry{offset, box, nullptr, nullptr, nullptr, nullptr};
+        Box entry{offset, box, nullptr, nullptr, nullptr, form, nullptr, nullptr, nullptr};
         entry.expense = addValueRow(form, tr("Spending"), QStringLiteral("expense"));
         entry.income = addValueRow(form, tr("Income"), QStringLiteral("income"));
         entry.balance = addValueRow(form, tr("Balance"), QStringLiteral("balance"));
+        entry.budget = addValueRow(form, tr("Budget"), QStringLiteral("budget"));
+        entry.left = addValueRow(form, tr("Left"), QStringLiteral("left"));
         column->addWidget(box);
         m_boxes.append(entry);
     }
@@ -83,6 +86,10 @@ BalanceWinController::BalanceWinController(KController *controller, QWidget *par
 
     connect(Notifications::instance(), &Notifications::dataListHasChanged, this,
             &BalanceWinController::dataListHasChanged);
+    connect(m_controller->budgets(), &BudgetBook::budgetsChanged, this, [this] {
+        for (Box &box : m_boxes)
+            setDataToBox(box);
+    });
     // New lists may name another income category, and a new data folder
     // drops every loaded month: fetch the months again.
     connect(Notifications::instance(), &Notifications::listPreferenceHasUpDated, this, [this] {
@@ -127,12 +134,37 @@ void BalanceWinController::setDataToBox(Box &box)
     box.balance->setText(amountText(balance));
     // A deficit in a red that reads on the window's ground; anything else in
     // the window's own colours.
+    const QColor red = ThemeColors::alertRed(this->palette().color(QPalette::Window));
     QPalette palette;
-    if (balance < 0) {
-        palette.setColor(QPalette::WindowText,
-                         ThemeColors::alertRed(this->palette().color(QPalette::Window)));
-    }
+    if (balance < 0)
+        palette.setColor(QPalette::WindowText, red);
     box.balance->setPalette(palette);
+    showBudget(box, red);
+}
+
+void BalanceWinController::showBudget(Box &box, const QColor &red)
+{
+    std::optional<BudgetCalculation::Line> total;
+    if (box.list) {
+        const int income = int(m_controller->categoryList().size()) - 1;
+        // Earlier months as the calendar has them, like the boxes.
+        total = m_controller->budgets()
+                    ->report(*box.list, income,
+                             [this](int year, int month) {
+                                 return m_controller->listForYear(year, month, false);
+                             })
+                    .total;
+    }
+    box.form->setRowVisible(box.budget, total.has_value());
+    box.form->setRowVisible(box.left, total.has_value());
+    if (!total)
+        return;
+    box.budget->setText(amountText(total->available()));
+    box.left->setText(amountText(total->left()));
+    QPalette palette;
+    if (total->left() < 0)
+        palette.setColor(QPalette::WindowText, red);
+    box.left->setPalette(palette);
 }
 
 void BalanceWinController::dataListHasChanged(DataList *list)

@@ -7,6 +7,8 @@
 
 class DataList;
 class KController;
+class QColor;
+class QFormLayout;
 class QGroupBox;
 class QLabel;
 class QScrollArea;
@@ -52,10 +54,16 @@ private:
         QLabel *expense;
         QLabel *income;
         QLabel *balance;
+        // What all spending may take, and what is left of it; shown when
+        // there are budgets.
+        QFormLayout *form;
+        QLabel *budget;
+        QLabel *left;
         std::shared_ptr<DataList> list;
     };
 
     void setDataToBox(Box &box);
+    void showBudget(Box &box, const QColor &red);
     void dataListHasChanged(DataList *list);
 
     KController *m_controller;

@@ -1,5 +1,6 @@
 #include "graph/GraphWinController.h"
 
+#include "budget/BudgetBook.h"
 #include "graph/BarGraphView.h"
 #include "graph/CircleGraphView.h"
 #include "graph/GraphCategoryModel.h"
@@ -14,6 +15,7 @@
 #include "settings/SettingsKeys.h"
 #include "widgets/RgbaQColor.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDate>
 #include <QEvent>
@@ -107,6 +109,8 @@ GraphWinController::GraphWinController(KController *controller, QWidget *parent)
             &GraphWinController::readListPreference);
     connect(notifications, &Notifications::lastDateHasChanged, this,
             &GraphWinController::reloadDataList);
+    connect(m_controller->budgets(), &BudgetBook::budgetsChanged, this,
+            &GraphWinController::showBudgetLines);
 
     const Settings settings;
     const QDate start = MonthStepping::bookingMonth(
@@ -167,6 +171,11 @@ QWidget *GraphWinController::buildToolRow()
     connect(m_addBarButton, &QToolButton::clicked, this, [this] { m_barGraphView->addBar(); });
     layout->addWidget(m_deleteBarButton);
     layout->addWidget(m_addBarButton);
+    m_budgetCheck = new QCheckBox(tr("B&udget"), row);
+    m_budgetCheck->setObjectName(QStringLiteral("budgetCheck"));
+    m_budgetCheck->setToolTip(tr("Draw each category's budget as a dashed line"));
+    connect(m_budgetCheck, &QCheckBox::toggled, this, &GraphWinController::showBudgetLines);
+    layout->addWidget(m_budgetCheck);
     layout->addStretch(1);
 
     const auto field = [row](const QString &name, int minimum, int maximum) {
@@ -275,6 +284,7 @@ void GraphWinController::reloadDataList()
     m_model->setDataList(m_currentDataList);
     if (m_currentGraphView)
         m_currentGraphView->setTargetYear(year(), month());
+    showBudgetLines();
 }
 
 void GraphWinController::scheduleReload()
@@ -293,6 +303,30 @@ void GraphWinController::reloadData()
     m_model->refresh();
     if (m_currentGraphView)
         m_currentGraphView->updateDataList();
+    showBudgetLines();
+}
+
+void GraphWinController::showBudgetLines()
+{
+    QMap<int, QList<double>> lines;
+    if (m_budgetCheck->isChecked()) {
+        const BudgetBook *book = m_controller->budgets();
+        const int income = int(m_controller->categoryList().size()) - 1;
+        const auto listOf = [this](int year, int month) {
+            return m_controller->listForYear(year, month, true);
+        };
+        for (int month = 1; month <= 12; ++month) {
+            const auto list = m_controller->listForYear(year(), month, true);
+            if (!list)
+                continue;
+            for (const auto &line : book->report(*list, income, listOf).categories) {
+                QList<double> &amounts = lines[line.category];
+                amounts.resize(12);
+                amounts[month - 1] = line.available();
+            }
+        }
+    }
+    m_lineGraphView->setBudgetLines(lines);
 }
 
 std::array<PWKGraphView *, 3> GraphWinController::graphViews() const
@@ -333,6 +367,7 @@ void GraphWinController::setCurrentGraphView(PWKGraphView *view)
     const bool bars = view == m_barGraphView;
     m_addBarButton->setVisible(bars);
     m_deleteBarButton->setVisible(bars);
+    m_budgetCheck->setVisible(view == m_lineGraphView);
     reloadDataList();
 }
 

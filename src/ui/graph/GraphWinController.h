@@ -13,6 +13,7 @@ class KController;
 class LedgerChartSource;
 class LineGraphView;
 class PWKGraphView;
+class QCheckBox;
 class QComboBox;
 class QPrinter;
 class QScrollArea;
@@ -90,6 +91,8 @@ private:
     int selectedRow() const;
     bool printTo(QPrinter &printer);
     void saveGeometrySetting();
+    // The budgets of the year on show for the line chart, when asked for.
+    void showBudgetLines();
 
     KController *m_controller;
     std::unique_ptr<LedgerChartSource> m_source;
@@ -103,6 +106,7 @@ private:
     QComboBox *m_graphPpButton;
     QToolButton *m_addBarButton;
     QToolButton *m_deleteBarButton;
+    QCheckBox *m_budgetCheck;
     QScrollArea *m_graphScrollView;
     CircleGraphView *m_circleGraphView;
     BarGraphView *m_barGraphView;

@@ -83,6 +83,19 @@ QPointF LineGraphView::pointOfCategory(int category, int month, double monthWidt
     return {x, y};
 }
 
+void LineGraphView::setBudgetLines(const QMap<int, QList<double>> &lines)
+{
+    if (lines == m_budgetLines)
+        return;
+    m_budgetLines = lines;
+    update();
+}
+
+double LineGraphView::heightOf(double amount, qint64 max, double graphHeight)
+{
+    return amount * graphHeight / double(max) + kBottom;
+}
+
 void LineGraphView::drawChart(QPainter &painter)
 {
     const double w = width();
@@ -112,7 +125,15 @@ void LineGraphView::drawChart(QPainter &painter)
         monthLabels.append(hit);
     }
 
-    const qint64 max = roundUpMax(chartData().maxAmountOfCategories(categoryCount()));
+    // The scale takes in the budgets drawn, so that none runs off the top.
+    qint64 highest = chartData().maxAmountOfCategories(categoryCount());
+    for (auto it = m_budgetLines.cbegin(); it != m_budgetLines.cend(); ++it) {
+        if (it.key() < categoryCount() && chartData().isSelected(it.key())) {
+            for (const double amount : it.value())
+                highest = std::max(highest, qint64(std::ceil(std::max(amount, 0.0))));
+        }
+    }
+    const qint64 max = roundUpMax(highest);
     m_axisMaximum = max;
     // Rounding can bring labels close together, or make several of them 0
     // in a quiet year: from the top down, a label too near the one above it
@@ -172,6 +193,26 @@ void LineGraphView::drawChart(QPainter &painter)
     }
     if (dimming)
         order.append(front);
+
+    // The budgets, dashed, under the lines of what was spent.
+    for (auto it = m_budgetLines.cbegin(); it != m_budgetLines.cend(); ++it) {
+        const int i = it.key();
+        if (i >= categoryCount() || !chartData().isSelected(i) || it.value().size() != 12)
+            continue;
+        QPainterPath budget;
+        for (int m = 1; m <= 12; ++m) {
+            const QPointF point(monthWidth * (m - 0.5) + kLeft - kEdge,
+                                heightOf(std::max(it.value().at(m - 1), 0.0), max, graphHeight));
+            if (m == 1)
+                budget.moveTo(point);
+            else
+                budget.lineTo(point);
+        }
+        const QColor color = dimming && i != front
+            ? ThemeColors::mix(colorOf(i), groundColor(), kDimming)
+            : colorOf(i);
+        painter.strokePath(budget, QPen(color, kLineWidth, Qt::DashLine, Qt::FlatCap));
+    }
 
     QPainterPathStroker hitArea;
     hitArea.setWidth(kHitWidth);

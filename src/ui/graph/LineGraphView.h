@@ -2,6 +2,8 @@
 
 #include "graph/PWKGraphView.h"
 
+#include <QMap>
+
 // One line per checked category across January to December of the target
 // year, with a dot at each month, over a month axis (the target month's label
 // in red) and an amount axis whose maximum and labels are rounded to a few
@@ -28,6 +30,11 @@ public:
     qint64 axisMaximum() const { return m_axisMaximum; }
     const QList<qint64> &axisLabels() const { return m_axisLabels; }
 
+    // Budgets drawn as dashed lines in their categories' colours: category
+    // to twelve amounts, January to December. Empty draws none.
+    void setBudgetLines(const QMap<int, QList<double>> &lines);
+    const QMap<int, QList<double>> &budgetLines() const { return m_budgetLines; }
+
     // Where the amount of a category in a month (1..12) lies, in y-up chart
     // coordinates.
     QPointF pointOfCategory(int category, int month, double monthWidth, qint64 max,
@@ -45,6 +52,10 @@ private:
     int monthAt(double x) const;
     void setPointedCategory(int category);
 
+    // Where an amount lies on the amount axis, in y-up chart coordinates.
+    static double heightOf(double amount, qint64 max, double graphHeight);
+
+    QMap<int, QList<double>> m_budgetLines;
     int m_pointedCategory = -1;
     qint64 m_axisMaximum = 0;
     QList<qint64> m_axisLabels;

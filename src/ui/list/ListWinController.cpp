@@ -1,5 +1,7 @@
 #include "list/ListWinController.h"
 
+#include "budget/BudgetBook.h"
+#include "budget/BudgetPane.h"
 #include "exchange/CsvExport.h"
 #include "ledger/KController.h"
 #include "list/DataListTableModel.h"
@@ -64,6 +66,8 @@ ListWinController::ListWinController(KController *controller, QWidget *parent)
             &ListWinController::readListPreference);
     connect(notifications, &Notifications::lastDateHasChanged, this,
             &ListWinController::reloadDataList);
+    connect(m_controller->budgets(), &BudgetBook::budgetsChanged, this,
+            &ListWinController::showBudgets);
 
     // Today's month; past the closing day, today already counts to the next.
     const Settings settings;
@@ -131,7 +135,10 @@ void ListWinController::buildWindow()
     lowerLayout->setContentsMargins(0, 0, 0, 0);
     m_totalsPane = new MonthTotalsPane(lowerPane);
     m_memo = new MonthMemo(m_controller, lowerPane);
+    m_budgetPane = new BudgetPane(lowerPane);
+    connect(m_budgetPane, &BudgetPane::editRequested, this, &ListWinController::budgetsRequested);
     lowerLayout->addWidget(m_totalsPane, 0, Qt::AlignTop);
+    lowerLayout->addWidget(m_budgetPane, 1);
     lowerLayout->addWidget(m_memo, 1);
     m_splitView->addWidget(lowerPane);
     m_splitView->setCollapsible(0, false);
@@ -428,6 +435,21 @@ void ListWinController::reloadData()
     m_totalsPane->showTotals(*list, last ? std::optional<double>(last->incomeTotal()
                                                                  - last->expendTotal())
                                          : std::nullopt);
+    showBudgets();
+}
+
+void ListWinController::showBudgets()
+{
+    if (!m_currentDataList)
+        return;
+    const BudgetBook *book = m_controller->budgets();
+    // Earlier months as this one is shown, for what rolls over.
+    const auto listOf = [this](int year, int month) {
+        return m_controller->listForYear(year, month, true);
+    };
+    m_budgetPane->showReport(
+        book->report(*m_currentDataList, int(m_categoryList.size()) - 1, listOf), m_categoryList,
+        book->problem());
 }
 
 QString ListWinController::heading() const

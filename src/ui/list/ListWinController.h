@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 
+class BudgetPane;
 class DataList;
 class DataListTableModel;
 class EntryTableView;
@@ -90,6 +91,8 @@ public slots:
 signals:
     // The user wants to book new entries dated so.
     void inputWindowRequested(int year, int month, int date);
+    // The user wants to edit the budgets of the month shown.
+    void budgetsRequested();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -109,6 +112,7 @@ private:
     void readListPreference();
     // Redraws the totals, the rate, the balances and last month's balance.
     void reloadData();
+    void showBudgets();
     // Stores the panel's keys in the shown list and filters it.
     void applyPanelKeys();
     void monthFieldChanged(int month);
@@ -131,6 +135,7 @@ private:
     DataListTableModel *m_model = nullptr;
     ListSearchPanel *m_searchPanel = nullptr;
     MonthTotalsPane *m_totalsPane = nullptr;
+    BudgetPane *m_budgetPane = nullptr;
     MonthMemo *m_memo = nullptr;
     SavableSplitView *m_splitView = nullptr;
     QAction *m_editAction = nullptr;

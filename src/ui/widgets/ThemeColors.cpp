@@ -38,4 +38,11 @@ QColor alertRed(const QColor &background)
     return contrastRatio(deep, background) >= contrastRatio(light, background) ? deep : light;
 }
 
+QColor warningAmber(const QColor &background)
+{
+    const QColor deep(0x8f, 0x5b, 0x00);
+    const QColor light(0xff, 0xc1, 0x4d);
+    return contrastRatio(deep, background) >= contrastRatio(light, background) ? deep : light;
+}
+
 } // namespace ThemeColors

@@ -17,5 +17,7 @@ QColor mix(const QColor &from, const QColor &to, double amount);
 // The red of a deficit or of a mark that must stand out: a deep red on a
 // light ground, a light one on a dark ground; either reads at 4.5:1 or more.
 QColor alertRed(const QColor &background);
+// The amber of a warning short of an alert, chosen the same way.
+QColor warningAmber(const QColor &background);
 
 } // namespace ThemeColors
