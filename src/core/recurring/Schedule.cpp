@@ -2,9 +2,11 @@
 
 #include "entry/NumberUtility.h"
 
+#include <QLocale>
 #include <QUuid>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 // A day of a month that may not have it falls on the month's last day.
@@ -134,4 +136,39 @@ void Schedule::passed(const QDate &occurrence)
 QString Schedule::newId()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
+QString Schedule::ruleText() const
+{
+    const QLocale locale;
+    switch (every) {
+    case Every::Months:
+        return interval == 1 ? tr("Every month on day %1").arg(day)
+                             : tr("Every %1 months on day %2").arg(interval).arg(day);
+    case Every::Weeks:
+        return interval == 1 ? tr("Every week on %1").arg(locale.dayName(day))
+                             : tr("Every %1 weeks on %2").arg(interval).arg(locale.dayName(day));
+    case Every::Years: {
+        // A leap year, so that the 29th of February can be named.
+        const QString date = locale.toString(QDate(2000, month, day), tr("d MMMM"));
+        return interval == 1 ? tr("Every year on %1").arg(date)
+                             : tr("Every %1 years on %2").arg(interval).arg(date);
+    }
+    }
+    return {};
+}
+
+Schedule Schedule::fromEntry(const PaymentData &entry)
+{
+    Schedule s;
+    s.id = newId();
+    s.category = entry.category();
+    s.details = entry.details();
+    s.amount = QString::number(double(entry.amount()), 'f', entry.amount() == std::floor(entry.amount()) ? 0 : 2);
+    s.payway = entry.payway();
+    s.day = entry.date();
+    s.start = QDate(entry.year(), entry.month(), entry.date());
+    s.last = s.start;
+    s.done = 1;
+    return s;
 }

@@ -73,8 +73,14 @@ public:
     // Marked as booked or skipped up to and including the occurrence.
     void passed(const QDate &occurrence);
 
+    // The rule in words ("Every 2 months on day 31").
+    QString ruleText() const;
+
     // Every schedule its own id.
     static QString newId();
+    // The schedule of an entry booked already: every month on its day from
+    // its date on, that date counting as the first occurrence.
+    static Schedule fromEntry(const PaymentData &entry);
 
 private:
     // The k-th date of the rule from the start's month, week or year (k from

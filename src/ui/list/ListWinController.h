@@ -90,6 +90,8 @@ public slots:
 signals:
     // The user wants to book new entries dated so.
     void inputWindowRequested(int year, int month, int date);
+    // The user wants the entry to come back as a schedule.
+    void makeRecurringRequested(const PaymentDataPtr &record);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -136,6 +138,7 @@ private:
     QAction *m_editAction = nullptr;
     QAction *m_newAction = nullptr;
     QAction *m_deleteAction = nullptr;
+    QAction *m_makeRecurringAction = nullptr;
     QAction *m_previousAction = nullptr;
     QAction *m_nextAction = nullptr;
     QAction *m_printAction = nullptr;
