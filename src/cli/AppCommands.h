@@ -42,4 +42,5 @@ private:
     static int sort(const QStringList &arguments);
     static int exportCsv(const QStringList &arguments);
     static int importFile(const QStringList &arguments);
+    static int schedules(const QStringList &arguments);
 };

@@ -6,6 +6,8 @@
 #include "exchange/LedgerImport.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
+#include "recurring/ScheduleFile.h"
+#include "recurring/ScheduleReport.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptHost.h"
 #include "script/ScriptNames.h"
@@ -184,4 +186,22 @@ QString ScriptApplication::ImportFile(const QString &path, const QVariantMap &op
     }
     return QString::fromUtf8(
         QJsonDocument(import.toJson(import.report(), dryRun)).toJson(QJsonDocument::Compact));
+}
+
+QString ScriptApplication::Schedules()
+{
+    KController *open = ledger();
+    if (!open)
+        return {};
+    // Every change of a schedule is written at once: the file is what the
+    // program holds.
+    QString error;
+    const auto schedules = ScheduleFile::read(open->dataFolderPath(), &error);
+    if (!schedules) {
+        sendErrorReply(ScriptNames::UnreadableError, error);
+        return {};
+    }
+    const QJsonArray report =
+        ScheduleReport::json(*schedules, open->categoryList(), open->paywayList());
+    return QString::fromUtf8(QJsonDocument(report).toJson(QJsonDocument::Compact));
 }

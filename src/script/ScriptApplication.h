@@ -38,6 +38,7 @@ public slots:
     QDBusObjectPath DataListAtIndex(int index);
     QString ExportCsv(const QString &scope);
     QString ImportFile(const QString &path, const QVariantMap &options);
+    QString Schedules();
 
 private:
     // The ledger; nothing, after replying with the error, while the password

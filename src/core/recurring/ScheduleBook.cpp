@@ -1,7 +1,6 @@
 #include "recurring/ScheduleBook.h"
 
 #include "entry/EntryCheck.h"
-#include "ledger/FolderFiles.h"
 #include "ledger/KController.h"
 #include "model/Notifications.h"
 #include "recurring/ScheduleFile.h"
@@ -43,11 +42,7 @@ void ScheduleBook::load()
 {
     const QString folder = m_ledger->dataFolderPath();
     QString reason;
-    const std::optional<QByteArray> bytes = FolderFiles::read(folder, ScheduleFile::FileName, &reason);
-    std::optional<QList<Schedule>> schedules =
-        bytes ? ScheduleFile::decode(*bytes, &reason) : std::nullopt;
-    if (!bytes && reason.isEmpty())
-        schedules.emplace(); // no file: no schedules yet
+    const std::optional<QList<Schedule>> schedules = ScheduleFile::read(folder, &reason);
     if (!schedules)
         reason = tr("The schedules file cannot be read: %1 It is left as it is, and no entry "
                     "is booked from it until it is mended.")
