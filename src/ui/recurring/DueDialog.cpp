@@ -43,7 +43,8 @@ DueDialog::DueDialog(const QList<ScheduleBook::Occurrence> &occurrences,
     m_table->verticalHeader()->hide();
     m_table->setTabKeyNavigation(false);
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
-    m_table->setEditTriggers(QAbstractItemView::AllEditTriggers);
+    // Typing into a cell would swallow the buttons' Alt keys: F2 or a double click edits.
+    m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     for (int row = 0; row < m_table->rowCount(); ++row) {
         const PaymentData &entry = *occurrences.at(row).entry;
         auto *book = new QTableWidgetItem;
