@@ -64,6 +64,9 @@ DueDialog::DueDialog(const QList<ScheduleBook::Occurrence> &occurrences,
         m_table->setCellWidget(row, Payway, listBox(payways, entry.payway(), m_table));
     }
     m_table->resizeColumnsToContents();
+    // Room to type a longer sum than the amount shown.
+    m_table->setColumnWidth(Amount, std::max(m_table->columnWidth(Amount),
+                                             m_table->fontMetrics().horizontalAdvance(u'0') * 10));
     m_table->horizontalHeader()->setSectionResizeMode(Details, QHeaderView::Stretch);
 
     m_status = new QLabel(this);

@@ -127,6 +127,8 @@ ScheduleDialog::ScheduleDialog(const Schedule &schedule, const QStringList &cate
     layout->addWidget(m_status);
     layout->addStretch(1);
     layout->addWidget(m_buttons);
+    // Room for the next date in words on one or two lines.
+    setMinimumWidth(fontMetrics().averageCharWidth() * 56);
 
     for (QComboBox *box : {m_every, m_ends})
         connect(box, &QComboBox::currentIndexChanged, this, &ScheduleDialog::showRuleFields);
