@@ -1369,12 +1369,12 @@ bool KController::bookImport(const PaymentArray &records, QString *error,
 {
     return bookAsOneChange(records, {},
                            tr("Import of %n Entries", nullptr, int(records.size())), error,
-                           progress);
+                           progress, true);
 }
 
 bool KController::bookAsOneChange(const PaymentArray &records,
                                   const QMap<QString, QByteArray> &files, const QString &label,
-                                  QString *error, const ImportProgress &progress)
+                                  QString *error, const ImportProgress &progress, bool writeNow)
 {
     if (!m_listFileProblem.isEmpty()) {
         setError(error, tr("Nothing can be booked until the list file is mended. %1")
@@ -1446,7 +1446,10 @@ bool KController::bookAsOneChange(const PaymentArray &records,
         m_change.months += changes;
     // Safe in the journal: a month that cannot be written now stays edited
     // and is tried again like any other.
-    saveAllEditedData();
+    if (writeNow)
+        saveAllEditedData();
+    else
+        m_saveTimer.start();
     return true;
 }
 
@@ -1483,7 +1486,7 @@ bool KController::bookWithFolderFiles(const PaymentArray &records,
                                       const QMap<QString, QByteArray> &files,
                                       const QString &label, QString *error)
 {
-    return bookAsOneChange(records, files, label, error, {});
+    return bookAsOneChange(records, files, label, error, {}, false);
 }
 
 bool KController::writeJournaledFiles()

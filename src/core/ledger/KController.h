@@ -255,7 +255,9 @@ public:
     bool writeFolderFile(const QString &name, const QByteArray &content, QString *error = nullptr);
     // Books the entries and the new contents of registered files as one
     // change, whole or not at all, like bookImport(): one record of the
-    // journal holds the months and the files. One step of the undo history
+    // journal holds the months and the files, and they are booked once it
+    // is written; the files themselves follow with the next save, about a
+    // second later, as after any change. One step of the undo history
     // under the label when there are entries; taking it back takes back the
     // entries only, the files stay as they are.
     bool bookWithFolderFiles(const PaymentArray &records, const QMap<QString, QByteArray> &files,
@@ -328,9 +330,11 @@ private:
     // are written at once instead.
     bool journal(const QList<MonthChange> &months, const QMap<QString, QByteArray> &files = {});
     // Adds the entries to their months and journals them with the files as
-    // one record; see bookImport().
+    // one record; see bookImport(). The files follow at once when writeNow,
+    // else with the next save, like any change.
     bool bookAsOneChange(const PaymentArray &records, const QMap<QString, QByteArray> &files,
-                         const QString &label, QString *error, const ImportProgress &progress);
+                         const QString &label, QString *error, const ImportProgress &progress,
+                         bool writeNow);
     // Writes the folder files the journal holds newer than the folder; true
     // when none is left.
     bool writeJournaledFiles();
