@@ -1446,10 +1446,14 @@ bool KController::bookAsOneChange(const PaymentArray &records,
         m_change.months += changes;
     // Safe in the journal: a month that cannot be written now stays edited
     // and is tried again like any other.
-    if (writeNow)
+    if (writeNow) {
         saveAllEditedData();
-    else
+    } else {
+        // The files at once, so that whoever reads one finds what was
+        // booked; the months with the next save.
+        writeJournaledFiles();
         m_saveTimer.start();
+    }
     return true;
 }
 

@@ -256,8 +256,9 @@ public:
     // Books the entries and the new contents of registered files as one
     // change, whole or not at all, like bookImport(): one record of the
     // journal holds the months and the files, and they are booked once it
-    // is written; the files themselves follow with the next save, about a
-    // second later, as after any change. One step of the undo history
+    // is written. The folder files are then written at once, the months
+    // with the next save, about a second later, as after any change. One
+    // step of the undo history
     // under the label when there are entries; taking it back takes back the
     // entries only, the files stay as they are.
     bool bookWithFolderFiles(const PaymentArray &records, const QMap<QString, QByteArray> &files,
@@ -330,8 +331,8 @@ private:
     // are written at once instead.
     bool journal(const QList<MonthChange> &months, const QMap<QString, QByteArray> &files = {});
     // Adds the entries to their months and journals them with the files as
-    // one record; see bookImport(). The files follow at once when writeNow,
-    // else with the next save, like any change.
+    // one record; see bookImport(). The month files follow at once when
+    // writeNow, else with the next save, like any change.
     bool bookAsOneChange(const PaymentArray &records, const QMap<QString, QByteArray> &files,
                          const QString &label, QString *error, const ImportProgress &progress,
                          bool writeNow);
