@@ -486,6 +486,18 @@
             <source>B&amp;udgets…</source>
             <translation>B&amp;udgets…</translation>
         </message>
+        <message>
+            <source>The schedules cannot be read.</source>
+            <translation>The schedules cannot be read.</translation>
+        </message>
+        <message>
+            <source>The scheduled entries due could not be booked.</source>
+            <translation>The scheduled entries due could not be booked.</translation>
+        </message>
+        <message>
+            <source>&amp;Schedules</source>
+            <translation>&amp;Schedules</translation>
+        </message>
     </context>
     <context>
         <name>KController</name>
@@ -647,10 +659,6 @@ The month stays as it is here, with your changes, and they replace the damaged f
             <source>The data folder was changed on another computer.</source>
             <translation>The data folder was changed on another computer.</translation>
         </message>
-        <message>
-            <source>The file of %1/%2 could not be read, so nothing was imported.</source>
-            <translation>The file of %1/%2 could not be read, so nothing was imported.</translation>
-        </message>
         <message numerus="yes">
             <source>Import of %n Entries</source>
             <translation>
@@ -661,10 +669,6 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>The import was cancelled; nothing was booked.</source>
             <translation>The import was cancelled; nothing was booked.</translation>
-        </message>
-        <message>
-            <source>The import could not be recorded, so nothing was booked.</source>
-            <translation>The import could not be recorded, so nothing was booked.</translation>
         </message>
         <message>
             <source>An import is being booked.</source>
@@ -681,6 +685,18 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>%1 Try again when that is done.</source>
             <translation>%1 Try again when that is done.</translation>
+        </message>
+        <message>
+            <source>%1 was changed since, so the change of the lists cannot be taken back.</source>
+            <translation>%1 was changed since, so the change of the lists cannot be taken back.</translation>
+        </message>
+        <message>
+            <source>The file of %1/%2 could not be read, so nothing was booked.</source>
+            <translation>The file of %1/%2 could not be read, so nothing was booked.</translation>
+        </message>
+        <message>
+            <source>The entries could not be recorded, so nothing was booked.</source>
+            <translation>The entries could not be recorded, so nothing was booked.</translation>
         </message>
     </context>
     <context>
@@ -890,6 +906,10 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>The CSV file could not be written to %1: %2</source>
             <translation>The CSV file could not be written to %1: %2</translation>
+        </message>
+        <message>
+            <source>Make &amp;Recurring…</source>
+            <translation>Make &amp;Recurring…</translation>
         </message>
     </context>
     <context>
@@ -2220,6 +2240,345 @@ Show Details… tells more of each.</translation>
         <message>
             <source>Cancel</source>
             <translation>Cancel</translation>
+        </message>
+    </context>
+    <context>
+        <name>DueDialog</name>
+        <message>
+            <source>Scheduled Entries Due</source>
+            <translation>Scheduled Entries Due</translation>
+        </message>
+        <message>
+            <source>These scheduled entries are due. Change what differs this time, and untick those that are not to be booked: they are skipped.</source>
+            <translation>These scheduled entries are due. Change what differs this time, and untick those that are not to be booked: they are skipped.</translation>
+        </message>
+        <message>
+            <source>Book</source>
+            <translation>Book</translation>
+        </message>
+        <message>
+            <source>Date</source>
+            <translation>Date</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>Details</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>Amount</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>Payway</translation>
+        </message>
+        <message>
+            <source>&amp;Book</source>
+            <translation>&amp;Book</translation>
+        </message>
+        <message>
+            <source>&amp;Later</source>
+            <translation>&amp;Later</translation>
+        </message>
+        <message>
+            <source>%1: %2</source>
+            <translation>%1: %2</translation>
+        </message>
+    </context>
+    <context>
+        <name>FolderFiles</name>
+        <message>
+            <source>%1 cannot be read (%2), so none of the stored entries has been renumbered and the lists are unchanged. Mend or remove it first.</source>
+            <translation>%1 cannot be read (%2), so none of the stored entries has been renumbered and the lists are unchanged. Mend or remove it first.</translation>
+        </message>
+    </context>
+    <context>
+        <name>Schedule</name>
+        <message>
+            <source>The schedule needs a start date.</source>
+            <translation>The schedule needs a start date.</translation>
+        </message>
+        <message>
+            <source>It must repeat at least every 1 month, week or year.</source>
+            <translation>It must repeat at least every 1 month, week or year.</translation>
+        </message>
+        <message>
+            <source>The day of the month must be from 1 to 31.</source>
+            <translation>The day of the month must be from 1 to 31.</translation>
+        </message>
+        <message>
+            <source>The weekday must be from Monday to Sunday.</source>
+            <translation>The weekday must be from Monday to Sunday.</translation>
+        </message>
+        <message>
+            <source>The month must be from 1 to 12.</source>
+            <translation>The month must be from 1 to 12.</translation>
+        </message>
+        <message>
+            <source>That month has no day %1.</source>
+            <translation>That month has no day %1.</translation>
+        </message>
+        <message>
+            <source>The end comes before the start.</source>
+            <translation>The end comes before the start.</translation>
+        </message>
+        <message>
+            <source>It must happen at least once.</source>
+            <translation>It must happen at least once.</translation>
+        </message>
+        <message>
+            <source>No date of the rule falls between the start and the end.</source>
+            <translation>No date of the rule falls between the start and the end.</translation>
+        </message>
+        <message>
+            <source>Every month on day %1</source>
+            <translation>Every month on day %1</translation>
+        </message>
+        <message>
+            <source>Every %1 months on day %2</source>
+            <translation>Every %1 months on day %2</translation>
+        </message>
+        <message>
+            <source>Every week on %1</source>
+            <translation>Every week on %1</translation>
+        </message>
+        <message>
+            <source>Every %1 weeks on %2</source>
+            <translation>Every %1 weeks on %2</translation>
+        </message>
+        <message>
+            <source>d MMMM</source>
+            <translation>d MMMM</translation>
+        </message>
+        <message>
+            <source>Every year on %1</source>
+            <translation>Every year on %1</translation>
+        </message>
+        <message>
+            <source>Every %1 years on %2</source>
+            <translation>Every %1 years on %2</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScheduleBook</name>
+        <message>
+            <source>The schedules file cannot be read: %1 It is left as it is, and no entry is booked from it until it is mended.</source>
+            <translation>The schedules file cannot be read: %1 It is left as it is, and no entry is booked from it until it is mended.</translation>
+        </message>
+        <message>
+            <source>There is a schedule of that name already.</source>
+            <translation>There is a schedule of that name already.</translation>
+        </message>
+        <message>
+            <source>The schedule is gone.</source>
+            <translation>The schedule is gone.</translation>
+        </message>
+        <message numerus="yes">
+            <source>Booking of %n Scheduled Entries</source>
+            <translation>
+                <numerusform>Booking of %n Scheduled Entry</numerusform>
+                <numerusform>Booking of %n Scheduled Entries</numerusform>
+            </translation>
+        </message>
+    </context>
+    <context>
+        <name>ScheduleDialog</name>
+        <message>
+            <source>New Schedule</source>
+            <translation>New Schedule</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>Schedule</translation>
+        </message>
+        <message>
+            <source>&amp;Details:</source>
+            <translation>&amp;Details:</translation>
+        </message>
+        <message>
+            <source>&amp;Category:</source>
+            <translation>&amp;Category:</translation>
+        </message>
+        <message>
+            <source>&amp;Amount:</source>
+            <translation>&amp;Amount:</translation>
+        </message>
+        <message>
+            <source>&amp;Payway:</source>
+            <translation>&amp;Payway:</translation>
+        </message>
+        <message>
+            <source>months</source>
+            <translation>months</translation>
+        </message>
+        <message>
+            <source>weeks</source>
+            <translation>weeks</translation>
+        </message>
+        <message>
+            <source>years</source>
+            <translation>years</translation>
+        </message>
+        <message>
+            <source>&amp;Every:</source>
+            <translation>&amp;Every:</translation>
+        </message>
+        <message>
+            <source>&amp;On:</source>
+            <translation>&amp;On:</translation>
+        </message>
+        <message>
+            <source>&amp;Starts:</source>
+            <translation>&amp;Starts:</translation>
+        </message>
+        <message>
+            <source>Never</source>
+            <translation>Never</translation>
+        </message>
+        <message>
+            <source>On</source>
+            <translation>On</translation>
+        </message>
+        <message>
+            <source>After</source>
+            <translation>After</translation>
+        </message>
+        <message>
+            <source> times</source>
+            <translation> times</translation>
+        </message>
+        <message>
+            <source>E&amp;nds:</source>
+            <translation>E&amp;nds:</translation>
+        </message>
+        <message>
+            <source>Book &amp;automatically</source>
+            <translation>Book &amp;automatically</translation>
+        </message>
+        <message>
+            <source>Ask &amp;first</source>
+            <translation>Ask &amp;first</translation>
+        </message>
+        <message>
+            <source>Booking:</source>
+            <translation>Booking:</translation>
+        </message>
+        <message>
+            <source>Give the amount to book.</source>
+            <translation>Give the amount to book.</translation>
+        </message>
+        <message>
+            <source>%1; next on %2, at %3.</source>
+            <translation>%1; next on %2, at %3.</translation>
+        </message>
+        <message>
+            <source>%1; every date of it has been booked.</source>
+            <translation>%1; every date of it has been booked.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScheduleFile</name>
+        <message>
+            <source>It is not a property list (%1).</source>
+            <translation>It is not a property list (%1).</translation>
+        </message>
+        <message>
+            <source>It holds no list of schedules.</source>
+            <translation>It holds no list of schedules.</translation>
+        </message>
+        <message>
+            <source>It was written by a newer Penwick.</source>
+            <translation>It was written by a newer Penwick.</translation>
+        </message>
+        <message>
+            <source>Schedule %1 has a wrong &quot;%2&quot;.</source>
+            <translation>Schedule %1 has a wrong &quot;%2&quot;.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScheduleListModel</name>
+        <message>
+            <source>Finished</source>
+            <translation>Finished</translation>
+        </message>
+        <message>
+            <source>Ask first</source>
+            <translation>Ask first</translation>
+        </message>
+        <message>
+            <source>Automatic</source>
+            <translation>Automatic</translation>
+        </message>
+        <message>
+            <source>Next</source>
+            <translation>Next</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>Details</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>Amount</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>Payway</translation>
+        </message>
+        <message>
+            <source>Repeats</source>
+            <translation>Repeats</translation>
+        </message>
+        <message>
+            <source>Booking</source>
+            <translation>Booking</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScheduleWinController</name>
+        <message>
+            <source>Schedules</source>
+            <translation>Schedules</translation>
+        </message>
+        <message>
+            <source>&amp;Add…</source>
+            <translation>&amp;Add…</translation>
+        </message>
+        <message>
+            <source>&amp;Edit…</source>
+            <translation>&amp;Edit…</translation>
+        </message>
+        <message>
+            <source>&amp;Remove…</source>
+            <translation>&amp;Remove…</translation>
+        </message>
+        <message>
+            <source>The schedule could not be saved.</source>
+            <translation>The schedule could not be saved.</translation>
+        </message>
+        <message>
+            <source>Remove Schedule</source>
+            <translation>Remove Schedule</translation>
+        </message>
+        <message>
+            <source>Remove the schedule &quot;%1&quot;? Entries booked from it stay.</source>
+            <translation>Remove the schedule &quot;%1&quot;? Entries booked from it stay.</translation>
+        </message>
+        <message>
+            <source>&amp;Remove</source>
+            <translation>&amp;Remove</translation>
+        </message>
+        <message>
+            <source>The schedule could not be removed.</source>
+            <translation>The schedule could not be removed.</translation>
         </message>
     </context>
 </TS>

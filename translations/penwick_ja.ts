@@ -485,6 +485,18 @@
             <source>B&amp;udgets…</source>
             <translation>予算(&amp;U)…</translation>
         </message>
+        <message>
+            <source>The schedules cannot be read.</source>
+            <translation>定期項目を読み込めません。</translation>
+        </message>
+        <message>
+            <source>The scheduled entries due could not be booked.</source>
+            <translation>記帳日が来た定期項目を記帳できませんでした。</translation>
+        </message>
+        <message>
+            <source>&amp;Schedules</source>
+            <translation>定期項目(&amp;S)</translation>
+        </message>
     </context>
     <context>
         <name>KController</name>
@@ -646,10 +658,6 @@ The month stays as it is here, with your changes, and they replace the damaged f
             <source>The data folder was changed on another computer.</source>
             <translation>データフォルダが別のコンピュータで変更されました。</translation>
         </message>
-        <message>
-            <source>The file of %1/%2 could not be read, so nothing was imported.</source>
-            <translation>%2年%1月のファイルを読み込めないため、何も取り込んでいません。</translation>
-        </message>
         <message numerus="yes">
             <source>Import of %n Entries</source>
             <translation>
@@ -659,10 +667,6 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>The import was cancelled; nothing was booked.</source>
             <translation>取り込みを中止しました。何も記帳していません。</translation>
-        </message>
-        <message>
-            <source>The import could not be recorded, so nothing was booked.</source>
-            <translation>取り込みを記録できなかったため、何も記帳していません。</translation>
         </message>
         <message>
             <source>An import is being booked.</source>
@@ -679,6 +683,18 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>%1 Try again when that is done.</source>
             <translation>%1終わってからもう一度お試しください。</translation>
+        </message>
+        <message>
+            <source>%1 was changed since, so the change of the lists cannot be taken back.</source>
+            <translation>%1 がその後変更されたため、リストの変更を取り消せません。</translation>
+        </message>
+        <message>
+            <source>The file of %1/%2 could not be read, so nothing was booked.</source>
+            <translation>%2年%1月のファイルを読み込めないため、何も記帳していません。</translation>
+        </message>
+        <message>
+            <source>The entries could not be recorded, so nothing was booked.</source>
+            <translation>項目を記録できなかったため、何も記帳していません。</translation>
         </message>
     </context>
     <context>
@@ -887,6 +903,10 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>The CSV file could not be written to %1: %2</source>
             <translation>CSV ファイルを %1 に書き込めませんでした: %2</translation>
+        </message>
+        <message>
+            <source>Make &amp;Recurring…</source>
+            <translation>定期項目にする(&amp;R)…</translation>
         </message>
     </context>
     <context>
@@ -2211,6 +2231,344 @@ Show Details… tells more of each.</source>
         <message>
             <source>Cancel</source>
             <translation>キャンセル</translation>
+        </message>
+    </context>
+    <context>
+        <name>DueDialog</name>
+        <message>
+            <source>Scheduled Entries Due</source>
+            <translation>記帳日が来た定期項目</translation>
+        </message>
+        <message>
+            <source>These scheduled entries are due. Change what differs this time, and untick those that are not to be booked: they are skipped.</source>
+            <translation>次の定期項目の記帳日が来ました。今回違うところは書き換え、記帳しないものはチェックを外してください。外したものは見送られます。</translation>
+        </message>
+        <message>
+            <source>Book</source>
+            <translation>記帳</translation>
+        </message>
+        <message>
+            <source>Date</source>
+            <translation>日付</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>内容</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>金額</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>支払い方法</translation>
+        </message>
+        <message>
+            <source>&amp;Book</source>
+            <translation>記帳(&amp;B)</translation>
+        </message>
+        <message>
+            <source>&amp;Later</source>
+            <translation>後で(&amp;L)</translation>
+        </message>
+        <message>
+            <source>%1: %2</source>
+            <translation>%1: %2</translation>
+        </message>
+    </context>
+    <context>
+        <name>FolderFiles</name>
+        <message>
+            <source>%1 cannot be read (%2), so none of the stored entries has been renumbered and the lists are unchanged. Mend or remove it first.</source>
+            <translation>%1 を読み込めないため（%2）、保存済みの項目の番号は変更しておらず、リストも変わっていません。先にこのファイルを修復するか取り除いてください。</translation>
+        </message>
+    </context>
+    <context>
+        <name>Schedule</name>
+        <message>
+            <source>The schedule needs a start date.</source>
+            <translation>開始日が必要です。</translation>
+        </message>
+        <message>
+            <source>It must repeat at least every 1 month, week or year.</source>
+            <translation>繰り返しの間隔は 1 以上にしてください。</translation>
+        </message>
+        <message>
+            <source>The day of the month must be from 1 to 31.</source>
+            <translation>日は 1 から 31 までで指定してください。</translation>
+        </message>
+        <message>
+            <source>The weekday must be from Monday to Sunday.</source>
+            <translation>曜日は月曜日から日曜日までで指定してください。</translation>
+        </message>
+        <message>
+            <source>The month must be from 1 to 12.</source>
+            <translation>月は 1 から 12 までで指定してください。</translation>
+        </message>
+        <message>
+            <source>That month has no day %1.</source>
+            <translation>その月に %1 日はありません。</translation>
+        </message>
+        <message>
+            <source>The end comes before the start.</source>
+            <translation>終了日が開始日より前です。</translation>
+        </message>
+        <message>
+            <source>It must happen at least once.</source>
+            <translation>回数は 1 回以上にしてください。</translation>
+        </message>
+        <message>
+            <source>No date of the rule falls between the start and the end.</source>
+            <translation>開始日から終了日までに該当する日がありません。</translation>
+        </message>
+        <message>
+            <source>Every month on day %1</source>
+            <translation>毎月 %1 日</translation>
+        </message>
+        <message>
+            <source>Every %1 months on day %2</source>
+            <translation>%1 か月ごとの %2 日</translation>
+        </message>
+        <message>
+            <source>Every week on %1</source>
+            <translation>毎週%1</translation>
+        </message>
+        <message>
+            <source>Every %1 weeks on %2</source>
+            <translation>%1 週間ごとの%2</translation>
+        </message>
+        <message>
+            <source>d MMMM</source>
+            <translation>M月d日</translation>
+        </message>
+        <message>
+            <source>Every year on %1</source>
+            <translation>毎年%1</translation>
+        </message>
+        <message>
+            <source>Every %1 years on %2</source>
+            <translation>%1 年ごとの%2</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScheduleBook</name>
+        <message>
+            <source>The schedules file cannot be read: %1 It is left as it is, and no entry is booked from it until it is mended.</source>
+            <translation>定期項目のファイルを読み込めません: %1 ファイルはそのままにしてあり、修復されるまでそこからは何も記帳しません。</translation>
+        </message>
+        <message>
+            <source>There is a schedule of that name already.</source>
+            <translation>同じ定期項目がすでにあります。</translation>
+        </message>
+        <message>
+            <source>The schedule is gone.</source>
+            <translation>その定期項目はもうありません。</translation>
+        </message>
+        <message numerus="yes">
+            <source>Booking of %n Scheduled Entries</source>
+            <translation>
+                <numerusform>定期項目 %n 件の記帳</numerusform>
+            </translation>
+        </message>
+    </context>
+    <context>
+        <name>ScheduleDialog</name>
+        <message>
+            <source>New Schedule</source>
+            <translation>新しい定期項目</translation>
+        </message>
+        <message>
+            <source>Schedule</source>
+            <translation>定期項目</translation>
+        </message>
+        <message>
+            <source>&amp;Details:</source>
+            <translation>内容(&amp;D):</translation>
+        </message>
+        <message>
+            <source>&amp;Category:</source>
+            <translation>分類(&amp;C):</translation>
+        </message>
+        <message>
+            <source>&amp;Amount:</source>
+            <translation>金額(&amp;A):</translation>
+        </message>
+        <message>
+            <source>&amp;Payway:</source>
+            <translation>支払い方法(&amp;P):</translation>
+        </message>
+        <message>
+            <source>months</source>
+            <translation>か月ごと</translation>
+        </message>
+        <message>
+            <source>weeks</source>
+            <translation>週間ごと</translation>
+        </message>
+        <message>
+            <source>years</source>
+            <translation>年ごと</translation>
+        </message>
+        <message>
+            <source>&amp;Every:</source>
+            <translation>間隔(&amp;E):</translation>
+        </message>
+        <message>
+            <source>&amp;On:</source>
+            <translation>日付(&amp;O):</translation>
+        </message>
+        <message>
+            <source>&amp;Starts:</source>
+            <translation>開始日(&amp;S):</translation>
+        </message>
+        <message>
+            <source>Never</source>
+            <translation>なし</translation>
+        </message>
+        <message>
+            <source>On</source>
+            <translation>日付で</translation>
+        </message>
+        <message>
+            <source>After</source>
+            <translation>回数で</translation>
+        </message>
+        <message>
+            <source> times</source>
+            <translation> 回</translation>
+        </message>
+        <message>
+            <source>E&amp;nds:</source>
+            <translation>終了(&amp;N):</translation>
+        </message>
+        <message>
+            <source>Book &amp;automatically</source>
+            <translation>自動で記帳する(&amp;A)</translation>
+        </message>
+        <message>
+            <source>Ask &amp;first</source>
+            <translation>記帳前に確認する(&amp;F)</translation>
+        </message>
+        <message>
+            <source>Booking:</source>
+            <translation>記帳:</translation>
+        </message>
+        <message>
+            <source>Give the amount to book.</source>
+            <translation>記帳する金額を入力してください。</translation>
+        </message>
+        <message>
+            <source>%1; next on %2, at %3.</source>
+            <translation>%1。次回は %2、金額 %3。</translation>
+        </message>
+        <message>
+            <source>%1; every date of it has been booked.</source>
+            <translation>%1。すべての日付を記帳済みです。</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScheduleFile</name>
+        <message>
+            <source>It is not a property list (%1).</source>
+            <translation>プロパティリストではありません（%1）。</translation>
+        </message>
+        <message>
+            <source>It holds no list of schedules.</source>
+            <translation>定期項目の一覧がありません。</translation>
+        </message>
+        <message>
+            <source>It was written by a newer Penwick.</source>
+            <translation>より新しい Penwick で書かれています。</translation>
+        </message>
+        <message>
+            <source>Schedule %1 has a wrong &quot;%2&quot;.</source>
+            <translation>%1 番目の定期項目の「%2」が正しくありません。</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScheduleListModel</name>
+        <message>
+            <source>Finished</source>
+            <translation>終了</translation>
+        </message>
+        <message>
+            <source>Ask first</source>
+            <translation>確認する</translation>
+        </message>
+        <message>
+            <source>Automatic</source>
+            <translation>自動</translation>
+        </message>
+        <message>
+            <source>Next</source>
+            <translation>次回</translation>
+        </message>
+        <message>
+            <source>Details</source>
+            <translation>内容</translation>
+        </message>
+        <message>
+            <source>Category</source>
+            <translation>分類</translation>
+        </message>
+        <message>
+            <source>Amount</source>
+            <translation>金額</translation>
+        </message>
+        <message>
+            <source>Payway</source>
+            <translation>支払い方法</translation>
+        </message>
+        <message>
+            <source>Repeats</source>
+            <translation>繰り返し</translation>
+        </message>
+        <message>
+            <source>Booking</source>
+            <translation>記帳</translation>
+        </message>
+    </context>
+    <context>
+        <name>ScheduleWinController</name>
+        <message>
+            <source>Schedules</source>
+            <translation>定期項目</translation>
+        </message>
+        <message>
+            <source>&amp;Add…</source>
+            <translation>追加(&amp;A)…</translation>
+        </message>
+        <message>
+            <source>&amp;Edit…</source>
+            <translation>編集(&amp;E)…</translation>
+        </message>
+        <message>
+            <source>&amp;Remove…</source>
+            <translation>削除(&amp;R)…</translation>
+        </message>
+        <message>
+            <source>The schedule could not be saved.</source>
+            <translation>定期項目を保存できませんでした。</translation>
+        </message>
+        <message>
+            <source>Remove Schedule</source>
+            <translation>定期項目の削除</translation>
+        </message>
+        <message>
+            <source>Remove the schedule &quot;%1&quot;? Entries booked from it stay.</source>
+            <translation>定期項目「%1」を削除しますか？ すでに記帳した項目は残ります。</translation>
+        </message>
+        <message>
+            <source>&amp;Remove</source>
+            <translation>削除(&amp;R)</translation>
+        </message>
+        <message>
+            <source>The schedule could not be removed.</source>
+            <translation>定期項目を削除できませんでした。</translation>
         </message>
     </context>
 </TS>

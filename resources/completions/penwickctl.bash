@@ -16,7 +16,7 @@ _penwickctl()
     COMPREPLY=()
 
     if ((COMP_CWORD == 1)); then
-        COMPREPLY=($(compgen -W "categories payways show book list search sort export import budget dump --help" -- "$cur"))
+        COMPREPLY=($(compgen -W "categories payways show book list search sort export import budget schedules dump --help" -- "$cur"))
         return
     fi
 
@@ -44,7 +44,7 @@ _penwickctl()
 
     local options
     case ${COMP_WORDS[1]} in
-    categories | payways | list | budget) options="--json" ;;
+    categories | payways | list | budget | schedules) options="--json" ;;
     show) options="input list graph balance" ;;
     book) options="--amount --category --details --payway --year --month --date --json" ;;
     search) options="--days --words --category --payway --min --max --json" ;;

@@ -1,7 +1,7 @@
 # Fish completion for penwickctl. Category and payway names are asked of the
 # running program.
 
-set -l commands categories payways show book list search sort export import budget dump
+set -l commands categories payways show book list search sort export import budget schedules dump
 
 complete -c penwickctl -f
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a categories -d "Print the category names"
@@ -14,10 +14,11 @@ complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a sort -d
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a export -d "Write entries as CSV"
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a import -d "Book the entries of a file"
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a budget -d "Print a month's spending, budget and what is left"
+complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a schedules -d "Print the entries that come back"
 complete -c penwickctl -n "not __fish_seen_subcommand_from $commands" -a dump -d "Print an archive or a month file"
 complete -c penwickctl -s h -l help -d "Show the usage"
 
-complete -c penwickctl -n "__fish_seen_subcommand_from categories payways list book search sort import budget" -l json -d "Print JSON"
+complete -c penwickctl -n "__fish_seen_subcommand_from categories payways list book search sort import budget schedules" -l json -d "Print JSON"
 complete -c penwickctl -n "__fish_seen_subcommand_from show" -a "input list graph balance"
 complete -c penwickctl -n "__fish_seen_subcommand_from book search" -l category -x -a "(penwickctl categories 2>/dev/null)" -d "Category"
 complete -c penwickctl -n "__fish_seen_subcommand_from book search" -l payway -x -a "(penwickctl payways 2>/dev/null)" -d "Payway"

@@ -218,6 +218,7 @@ QList<AppCommands::Command> AppCommands::commands()
         {u"import"_s, tr("Book the entries of a CSV, QIF, OFX or HomeBank file."), &importFile},
         {u"budget"_s, tr("Print a month's spending, budget and what is left per category."),
          &budget},
+        {u"schedules"_s, tr("Print the entries that come back, with their next dates."), &schedules},
     };
 }
 
@@ -649,6 +650,46 @@ int AppCommands::budget(const QStringList &arguments)
     }
     if (report.contains(u"total"_s))
         text += lineOf(tr("All spending"), report.value(u"total"_s).toObject());
+    CommandLine::printOut(text);
+    return CommandLine::Success;
+}
+
+int AppCommands::schedules(const QStringList &arguments)
+{
+    const QString command = u"schedules"_s;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        tr("Prints the schedules of entries that come back, one a line: the next date (\"-\" "
+           "once finished), details, category, amount as typed, payway, the rule and whether it "
+           "books automatically or asks first."));
+    parser.addOption(jsonOption);
+    if (const auto status = CommandLine::parse(parser, command, arguments))
+        return *status;
+    if (!parser.positionalArguments().isEmpty())
+        return CommandLine::usageError(command, tr("takes no arguments"));
+    const auto reply = callApplication(command, u"Schedules"_s);
+    if (!reply || reply->isEmpty())
+        return CommandLine::Failure;
+    const QJsonArray schedules = QJsonDocument::fromJson(reply->constFirst().toString().toUtf8()).array();
+    if (parser.isSet(jsonOption)) {
+        CommandLine::printOut(QJsonDocument(schedules).toJson(QJsonDocument::Indented));
+        return CommandLine::Success;
+    }
+    QByteArray text;
+    for (const QJsonValue &value : schedules) {
+        const QJsonObject s = value.toObject();
+        const QString next = s.value(u"next"_s).toString();
+        text += QStringList{next.isEmpty() ? u"-"_s : next,
+                            CommandLine::escaped(s.value(u"details"_s).toString()),
+                            CommandLine::escaped(s.value(u"categoryName"_s).toString()),
+                            CommandLine::escaped(s.value(u"amount"_s).toString()),
+                            CommandLine::escaped(s.value(u"paywayName"_s).toString()),
+                            s.value(u"rule"_s).toString(),
+                            s.value(u"mode"_s).toString()}
+                    .join(u'\t')
+                    .toUtf8()
+                + '\n';
+    }
     CommandLine::printOut(text);
     return CommandLine::Success;
 }

@@ -43,4 +43,5 @@ private:
     static int exportCsv(const QStringList &arguments);
     static int importFile(const QStringList &arguments);
     static int budget(const QStringList &arguments);
+    static int schedules(const QStringList &arguments);
 };

@@ -6,6 +6,8 @@
 #include "exchange/LedgerImport.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
+#include "recurring/ScheduleFile.h"
+#include "recurring/ScheduleReport.h"
 #include "script/BudgetCommand.h"
 #include "script/ScriptCommands.h"
 #include "script/ScriptHost.h"
@@ -198,4 +200,22 @@ QString ScriptApplication::BudgetOfMonth(const QString &month)
         return {};
     }
     return QString::fromUtf8(BudgetCommand::reportJson(*open, *key / 100, *key % 100));
+}
+
+QString ScriptApplication::Schedules()
+{
+    KController *open = ledger();
+    if (!open)
+        return {};
+    // Every change of a schedule is written at once: the file is what the
+    // program holds.
+    QString error;
+    const auto schedules = ScheduleFile::read(open->dataFolderPath(), &error);
+    if (!schedules) {
+        sendErrorReply(ScriptNames::UnreadableError, error);
+        return {};
+    }
+    const QJsonArray report =
+        ScheduleReport::json(*schedules, open->categoryList(), open->paywayList());
+    return QString::fromUtf8(QJsonDocument(report).toJson(QJsonDocument::Compact));
 }

@@ -39,6 +39,7 @@ public slots:
     QString ExportCsv(const QString &scope);
     QString ImportFile(const QString &path, const QVariantMap &options);
     QString BudgetOfMonth(const QString &month);
+    QString Schedules();
 
 private:
     // The ledger; nothing, after replying with the error, while the password

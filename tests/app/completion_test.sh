@@ -20,7 +20,8 @@ bash_completes() {
 }
 bash_completes "show
 search
-sort" penwickctl s
+sort
+schedules" penwickctl s
 bash_completes 'Eating\ out' penwickctl book --category Ea
 bash_completes 'Credit\ card' penwickctl search 200605 --payway Cr
 bash_completes "Amount" penwickctl sort 200605 --key Am

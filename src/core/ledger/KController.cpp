@@ -1,6 +1,7 @@
 #include "ledger/KController.h"
 
 #include "budget/BudgetBook.h"
+#include "budget/BudgetFile.h"
 #include "ledger/ConversionJournal.h"
 #include "ledger/DataFolder.h"
 #include "ledger/MonthMerge.h"
@@ -87,12 +88,21 @@ KController::KController(QObject *parent)
     , m_sharedFolder(new SharedFolder(this))
     , m_budgets(new BudgetBook(this))
 {
+    // Budgets follow their categories through a renumbering, and its undo.
+    registerFolderFile(BudgetFile::FileName, &BudgetFile::renumbered);
     // After a renumbering or a change of folder, the budgets as the folder
     // now holds them.
-    connect(Notifications::instance(), &Notifications::listPreferenceHasUpDated, this, [this] {
+    const auto reloadBudgets = [this] {
         if (m_budgets->isLoaded())
             m_budgets->load(dataFolderPath());
-    });
+    };
+    connect(Notifications::instance(), &Notifications::listPreferenceHasUpDated, this,
+            reloadBudgets);
+    connect(this, &KController::folderFileRewritten, this,
+            [reloadBudgets](const QString &name) {
+                if (name == BudgetFile::FileName)
+                    reloadBudgets();
+            });
     connect(m_sharedFolder, &SharedFolder::changed, this, &KController::takeOutsideChanges);
     m_saveTimer.setSingleShot(true);
     m_saveTimer.setInterval(kSaveDelayMs);
@@ -391,9 +401,10 @@ bool KController::saveAllEditedData()
         if (auto *month = dynamic_cast<MonthDataList *>(list.get()))
             writeDataListToFile(month);
     }
+    const bool filesWritten = writeJournaledFiles();
     if (hasUnsavedMonths())
         return false;
-    if (m_journal) {
+    if (m_journal && filesWritten) {
         QString reason;
         if (m_journal->remove(&reason)) {
             m_journal.reset();
@@ -461,12 +472,15 @@ void KController::recordMonths(const QList<MonthDataList *> &months)
         journal(changes);
 }
 
-bool KController::journal(const QList<MonthChange> &months)
+bool KController::journal(const QList<MonthChange> &months, const QMap<QString, QByteArray> &files)
 {
     QList<ChangeJournal::Month> records;
     records.reserve(months.size());
     for (const MonthChange &month : months)
         records.append({month.year, month.month, month.after});
+    QList<ChangeJournal::File> fileRecords;
+    for (auto file = files.cbegin(); file != files.cend(); ++file)
+        fileRecords.append({file.key(), file.value()});
     // A journal not brought back (it could not be read) is neither added to
     // nor removed.
     const bool strayJournal = !m_journal && QFileInfo(changeJournalPath()).size() > 0;
@@ -474,9 +488,10 @@ bool KController::journal(const QList<MonthChange> &months)
         if (!m_journal)
             m_journal = std::make_unique<ChangeJournal>(changeJournalPath());
         QString reason;
-        if (m_journal->append(records, &reason)) {
+        if (m_journal->append(records, &reason, fileRecords)) {
             for (const ChangeJournal::Month &record : std::as_const(records))
                 m_journaledMonths.insert(cacheKey(record.year, record.month));
+            m_filesPending.insert(files);
             return true;
         }
         qWarning("%s", qPrintable(reason));
@@ -613,7 +628,7 @@ bool KController::replayChangeJournal(QString *error)
         }
         problems.prepend(tr("The journal of changes %1 is damaged; it was kept as %2.")
                              .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(aside)));
-    } else if (!contents.months.isEmpty() || contents.torn) {
+    } else if (!contents.months.isEmpty() || !contents.files.isEmpty() || contents.torn) {
         // Adopted: the months' newer records go after these.
         m_journal = std::make_unique<ChangeJournal>(path);
         for (const ChangeJournal::Month &record : std::as_const(contents.months))
@@ -627,7 +642,12 @@ bool KController::replayChangeJournal(QString *error)
         m_listStock.insert(cacheKey(*month), month);
         m_current.insert(cacheKey(*month), MonthFile::encode(*month));
     }
-    if (!saveAllEditedData())
+    for (const ChangeJournal::File &file : std::as_const(contents.files))
+        m_filesPending.insert(file.name, file.content);
+    const bool saved = saveAllEditedData() && m_filesPending.isEmpty();
+    for (const ChangeJournal::File &file : std::as_const(contents.files))
+        emit folderFileRewritten(file.name);
+    if (!saved)
         problems.append(tr("Some of the changes brought back could not be written to their "
                            "months yet; they stay safe in the journal."));
     setError(error, problems.join(u'\n'));
@@ -665,6 +685,7 @@ bool KController::releaseAllDataWithSave(bool save)
     m_journal.reset();
     m_journaledMonths.clear();
     m_journalPending.clear();
+    m_filesPending.clear();
     m_current.clear();
     expireChanges();
     m_unreadableMonths.clear();
@@ -796,7 +817,7 @@ QVariantMap KController::heldLists(const QVariantMap &keys)
 bool KController::runConversion(const ListConversion &conversion, QString *error)
 {
     Change change{tr("Change of Categories and Payways"), {}, false,
-                  heldLists(conversion.lists), conversion.lists};
+                  heldLists(conversion.lists), conversion.lists, {}};
     if (!conversion.renumbers()) {
         if (!conversion.lists.isEmpty()
             && !ListFile::setPreferenceDataLists(dataFolderPath(), conversion.lists, error))
@@ -819,7 +840,11 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
             change.months.append({month->year(), month->month(), std::move(before),
                                   std::move(after)});
     }
-    if (!rewriteFolder(conversion, change.months, true, error))
+    const auto files = m_folderFiles.renumbered(dataFolderPath(), conversion, error);
+    if (!files)
+        return false;
+    change.files = *files;
+    if (!rewriteFolder(conversion, change.months, change.files, true, error))
         return false;
 
     // Each record reports its change; re-sorting its month for every one of
@@ -831,6 +856,8 @@ bool KController::runConversion(const ListConversion &conversion, QString *error
         if (!conversion.paywayMap.isEmpty())
             month->convertPayway(conversion.paywayMap);
     });
+    for (const FolderFileChange &file : std::as_const(change.files))
+        emit folderFileRewritten(file.name);
     if (!recordable) {
         expireChanges();
         return true;
@@ -875,12 +902,21 @@ KController::monthsReadyForRewrite(QString *error)
 }
 
 bool KController::rewriteFolder(const ListConversion &conversion,
-                                const QList<MonthChange> &months, bool after, QString *error)
+                                const QList<MonthChange> &months,
+                                const QList<FolderFileChange> &folderFiles, bool after,
+                                QString *error)
 {
+    // The months first, then the other files, each with its content.
     QStringList files;
-    files.reserve(months.size());
-    for (const MonthChange &month : months)
+    QList<QByteArray> contents;
+    for (const MonthChange &month : months) {
         files.append(QFileInfo(filePathForYear(month.year, month.month)).fileName());
+        contents.append(after ? month.after : month.before);
+    }
+    for (const FolderFileChange &file : folderFiles) {
+        files.append(file.name);
+        contents.append(after ? file.after : file.before);
+    }
     const int count = int(files.size());
     const int total = 2 * count;
 
@@ -890,8 +926,7 @@ bool KController::rewriteFolder(const ListConversion &conversion,
     ConversionJournal journal(dataFolderPath());
     bool decided = journal.begin(conversion, files, conversion.renumbers(), error);
     for (int i = 0; decided && i < count; ++i) {
-        const MonthChange &month = months.at(i);
-        decided = journal.writeMonth(files.at(i), after ? month.after : month.before, error);
+        decided = journal.writeMonth(files.at(i), contents.at(i), error);
         if (decided)
             emit conversionProgress(i + 1, total);
     }
@@ -907,13 +942,11 @@ bool KController::rewriteFolder(const ListConversion &conversion,
     m_writesHeld = WritesHeld::No;
     // Our own doing, not to be taken for another computer's; cut short, the
     // folder holds some months of each kind.
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < months.size(); ++i) {
         const QString path = QDir(dataFolderPath()).filePath(files.at(i));
         QFile file(path);
-        const MonthChange &month = months.at(i);
-        m_sharedFolder->know(path, finished || !file.open(QIODevice::ReadOnly)
-                                       ? (after ? month.after : month.before)
-                                       : file.readAll());
+        m_sharedFolder->know(path, finished || !file.open(QIODevice::ReadOnly) ? contents.at(i)
+                                                                               : file.readAll());
     }
     if (!finished) {
         // Some months hold the new content and some do not yet; the next
@@ -958,7 +991,7 @@ bool KController::restoreLists(const Change &change, bool before, QString *error
 {
     ListConversion conversion;
     conversion.lists = before ? change.listsBefore : change.listsAfter;
-    if (change.months.isEmpty()) {
+    if (change.months.isEmpty() && change.files.isEmpty()) {
         if (!ListFile::setPreferenceDataLists(dataFolderPath(), conversion.lists, error))
             return false;
         readListPreference();
@@ -983,7 +1016,14 @@ bool KController::restoreLists(const Change &change, bool before, QString *error
             return false;
         restored.insert(month.year * 100 + month.month, state->dataListArray());
     }
-    if (!rewriteFolder(conversion, change.months, !before, error))
+    for (const FolderFileChange &file : change.files) {
+        if (FolderFiles::read(dataFolderPath(), file.name) != (before ? file.after : file.before)) {
+            setError(error, tr("%1 was changed since, so the change of the lists cannot be taken "
+                               "back.").arg(file.name));
+            return false;
+        }
+    }
+    if (!rewriteFolder(conversion, change.months, change.files, !before, error))
         return false;
     if (!settleRewrittenMonths([&restored](MonthDataList *month) {
             const auto found = restored.constFind(month->year() * 100 + month->month());
@@ -991,6 +1031,8 @@ bool KController::restoreLists(const Change &change, bool before, QString *error
                 month->setDataListArray(*found);
         }))
         expireChanges();
+    for (const FolderFileChange &file : change.files)
+        emit folderFileRewritten(file.name);
     emit Notifications::instance()->listPreferenceHasUpDated();
     return true;
 }
@@ -1003,8 +1045,12 @@ bool KController::finishInterruptedConversion(QString *error)
     switch (journal.phase()) {
     case ConversionJournal::Phase::None:
         return true;
-    case ConversionJournal::Phase::Commit:
-        return journal.finish({}, error);
+    case ConversionJournal::Phase::Commit: {
+        const bool finished = journal.finish({}, error);
+        for (const QString &name : m_folderFiles.names())
+            emit folderFileRewritten(name);
+        return finished;
+    }
     case ConversionJournal::Phase::Prepare:
         break;
     }
@@ -1347,6 +1393,15 @@ QString KController::describeEntry(const PaymentDataPtr &record) const
 bool KController::bookImport(const PaymentArray &records, QString *error,
                              const ImportProgress &progress)
 {
+    return bookAsOneChange(records, {},
+                           tr("Import of %n Entries", nullptr, int(records.size())), error,
+                           progress, true);
+}
+
+bool KController::bookAsOneChange(const PaymentArray &records,
+                                  const QMap<QString, QByteArray> &files, const QString &label,
+                                  QString *error, const ImportProgress &progress, bool writeNow)
+{
     if (!m_listFileProblem.isEmpty()) {
         setError(error, tr("Nothing can be booked until the list file is mended. %1")
                             .arg(m_listFileProblem));
@@ -1368,7 +1423,7 @@ bool KController::bookImport(const PaymentArray &records, QString *error,
             return false;
         }
         if (list->isReadOnly()) {
-            setError(error, tr("The file of %1/%2 could not be read, so nothing was imported.")
+            setError(error, tr("The file of %1/%2 could not be read, so nothing was booked.")
                                 .arg(month)
                                 .arg(year));
             return false;
@@ -1376,7 +1431,7 @@ bool KController::bookImport(const PaymentArray &records, QString *error,
         months.append(list);
     }
 
-    const ChangeScope scope(this, tr("Import of %n Entries", nullptr, int(records.size())));
+    const ChangeScope scope(this, label);
     // While the entries are in memory only, nothing may write a month or
     // record it on its own: that would put part of the import on the disk.
     // Whoever shows progress may let the event loop run meanwhile.
@@ -1399,7 +1454,7 @@ bool KController::bookImport(const PaymentArray &records, QString *error,
     }
     m_writesHeld = WritesHeld::No;
     // The moment of booking.
-    if (cancelled || !journal(changes)) {
+    if (cancelled || !journal(changes, files)) {
         m_writesHeld = WritesHeld::ForImport;
         for (int i = 0; i < added; ++i) {
             MonthDataList *month = months.at(i).get();
@@ -1408,7 +1463,7 @@ bool KController::bookImport(const PaymentArray &records, QString *error,
         }
         m_writesHeld = WritesHeld::No;
         setError(error, cancelled ? tr("The import was cancelled; nothing was booked.")
-                                  : tr("The import could not be recorded, so nothing was booked."));
+                                  : tr("The entries could not be recorded, so nothing was booked."));
         return false;
     }
     for (const MonthChange &change : std::as_const(changes))
@@ -1417,6 +1472,65 @@ bool KController::bookImport(const PaymentArray &records, QString *error,
         m_change.months += changes;
     // Safe in the journal: a month that cannot be written now stays edited
     // and is tried again like any other.
-    saveAllEditedData();
+    if (writeNow) {
+        saveAllEditedData();
+    } else {
+        // The files at once, so that whoever reads one finds what was
+        // booked; the months with the next save.
+        writeJournaledFiles();
+        m_saveTimer.start();
+    }
     return true;
+}
+
+// Files of the data folder that hold category or payway numbers -------------
+
+void KController::registerFolderFile(const QString &name, const FolderFiles::Renumber &renumber)
+{
+    m_folderFiles.add(name, renumber);
+}
+
+bool KController::writeFolderFile(const QString &name, const QByteArray &content, QString *error)
+{
+    if (m_writesHeld != WritesHeld::No) {
+        setError(error, tr("%1 Try again when that is done.").arg(writesHeldReason()));
+        return false;
+    }
+    // The journal may hold an older content, which a replay would bring
+    // back over this one: it gets the new one first.
+    const bool journaled =
+        (m_journal || m_filesPending.contains(name)) && journal({}, {{name, content}});
+    QString reason;
+    if (DurableFile::write(QDir(dataFolderPath()).filePath(name), content, &reason)) {
+        m_filesPending.remove(name);
+        return true;
+    }
+    // Safe in the journal, and written at the next save.
+    if (journaled)
+        return true;
+    setError(error, reason);
+    return false;
+}
+
+bool KController::bookWithFolderFiles(const PaymentArray &records,
+                                      const QMap<QString, QByteArray> &files,
+                                      const QString &label, QString *error)
+{
+    return bookAsOneChange(records, files, label, error, {}, false);
+}
+
+bool KController::writeJournaledFiles()
+{
+    if (m_writesHeld != WritesHeld::No)
+        return m_filesPending.isEmpty();
+    for (auto file = m_filesPending.begin(); file != m_filesPending.end();) {
+        QString reason;
+        if (DurableFile::write(QDir(dataFolderPath()).filePath(file.key()), file.value(), &reason)) {
+            file = m_filesPending.erase(file);
+        } else {
+            qWarning("%s", qPrintable(reason));
+            ++file;
+        }
+    }
+    return m_filesPending.isEmpty();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ledger/FolderFiles.h"
 #include "ledger/ListConversion.h"
 #include "ledger/SharedFolder.h"
 #include "model/LedgerController.h"
@@ -109,6 +110,9 @@ public:
         QVariantMap listsBefore;
         QVariantMap listsAfter;
         bool changesLists() const { return !listsAfter.isEmpty(); }
+        // The registered folder files (see registerFolderFile()) a change
+        // of the lists renumbered, before and after.
+        QList<FolderFileChange> files;
     };
     // Every change of a month until the matching endChange() is one Change
     // under the label (the outermost one's), and one record of the journal.
@@ -228,8 +232,45 @@ public:
     // The budgets of the data folder, loaded with it and read again when the
     // lists or the folder change.
     BudgetBook *budgets();
+    // Files of the data folder that hold category or payway numbers --------
+    //
+    // Besides the months, the data folder may hold files of our own whose
+    // content names categories and payways by number (the schedules'
+    // entries). Each is registered once by its name in the folder with the
+    // pure function that renumbers its content, (old bytes, conversion) →
+    // new bytes, or nothing with the reason when the old bytes cannot be
+    // read. From then on:
+    // - a renumbering (convertStoredData(), and one finished at the next
+    //   start) rewrites the file in the same crash-safe change as the
+    //   months: a side file, renamed into place with them. A file the
+    //   folder does not have is left out; one that cannot be read refuses
+    //   the renumbering with nothing changed, as an unreadable month does.
+    // - the Change keeps its content before and after (Change::files), and
+    //   undo and redo put it back with the months; refused when the file
+    //   was changed since.
+    // - folderFileRewritten(name) tells whoever holds its content to read
+    //   it again, after any of these and after a replay of the journal.
+    // Write such a file only through writeFolderFile() or
+    // bookWithFolderFiles(): the journal may hold an older content of it
+    // that a replay would otherwise bring back.
+    void registerFolderFile(const QString &name, const FolderFiles::Renumber &renumber);
+    // Writes a registered file of the folder durably. Refused, with the
+    // reason, while the lists are being renumbered or an import booked.
+    bool writeFolderFile(const QString &name, const QByteArray &content, QString *error = nullptr);
+    // Books the entries and the new contents of registered files as one
+    // change, whole or not at all, like bookImport(): one record of the
+    // journal holds the months and the files, and they are booked once it
+    // is written. The folder files are then written at once, the months
+    // with the next save, about a second later, as after any change. One
+    // step of the undo history
+    // under the label when there are entries; taking it back takes back the
+    // entries only, the files stay as they are.
+    bool bookWithFolderFiles(const PaymentArray &records, const QMap<QString, QByteArray> &files,
+                             const QString &label, QString *error = nullptr);
 
 signals:
+    // A registered folder file was rewritten by the ledger: read it again.
+    void folderFileRewritten(const QString &name);
     // Emitted before the edited months are written, so that a window can hand
     // over what it still holds (a memo being typed).
     void aboutToSaveAllEditedData();
@@ -269,7 +310,7 @@ private:
     // next start completes the change. Only a renumbering by maps is
     // repeatable from the journal; a restore cut short is dropped.
     bool rewriteFolder(const ListConversion &conversion, const QList<MonthChange> &months,
-                       bool after, QString *error);
+                       const QList<FolderFileChange> &files, bool after, QString *error);
     // Brings the cache in line with a rewritten folder: apply() changes
     // each cached month in memory, then the lists are read anew and the
     // months announced. False when a month changed while the folder was
@@ -292,7 +333,16 @@ private:
     // Appends the months to the journal; on failure the journal is dropped
     // (it may not hold anything older than a month's file) and the months
     // are written at once instead.
-    bool journal(const QList<MonthChange> &months);
+    bool journal(const QList<MonthChange> &months, const QMap<QString, QByteArray> &files = {});
+    // Adds the entries to their months and journals them with the files as
+    // one record; see bookImport(). The month files follow at once when
+    // writeNow, else with the next save, like any change.
+    bool bookAsOneChange(const PaymentArray &records, const QMap<QString, QByteArray> &files,
+                         const QString &label, QString *error, const ImportProgress &progress,
+                         bool writeNow);
+    // Writes the folder files the journal holds newer than the folder; true
+    // when none is left.
+    bool writeJournaledFiles();
     void expireChanges();
     void dropJournal();
     // Writes without reporting; the caller decides what a failure means.
@@ -359,4 +409,8 @@ private:
     SharedFolder *m_sharedFolder;
     BudgetBook *m_budgets;
     bool m_watchShared = false;
+
+    FolderFiles m_folderFiles;
+    // Folder files journaled and not yet written, by name.
+    QMap<QString, QByteArray> m_filesPending;
 };

@@ -48,6 +48,7 @@ inline constexpr QLatin1StringView ListWindow{"ListWindow"};
 inline constexpr QLatin1StringView GraphWindow{"GraphWindow"};
 inline constexpr QLatin1StringView BalanceWindow{"BalanceWindow"};
 inline constexpr QLatin1StringView PreferenceWindow{"PreferenceWindow"};
+inline constexpr QLatin1StringView ScheduleWindow{"ScheduleWindow"};
 inline constexpr QLatin1StringView SetPassPanel{"SetPassPanel"};
 inline constexpr QLatin1StringView ConfirmPassPanel{"ConfirmPassPanel"};
 

@@ -33,7 +33,8 @@ void put(QByteArray &out, T value)
     out.append(bytes, sizeof(T));
 }
 
-QByteArray encodeRecord(const QList<ChangeJournal::Month> &months)
+QByteArray encodeRecord(const QList<ChangeJournal::Month> &months,
+                        const QList<ChangeJournal::File> &files)
 {
     QByteArray payload;
     put<quint16>(payload, quint16(months.size()));
@@ -42,6 +43,18 @@ QByteArray encodeRecord(const QList<ChangeJournal::Month> &months)
         put<qint32>(payload, month.month);
         put<quint32>(payload, quint32(month.content.size()));
         payload.append(month.content);
+    }
+    // Written only when there are files, so that a record of months alone
+    // is what it always was.
+    if (!files.isEmpty()) {
+        put<quint16>(payload, quint16(files.size()));
+        for (const ChangeJournal::File &file : files) {
+            const QByteArray name = file.name.toUtf8();
+            put<quint16>(payload, quint16(name.size()));
+            payload.append(name);
+            put<quint32>(payload, quint32(file.content.size()));
+            payload.append(file.content);
+        }
     }
     QByteArray record;
     record.reserve(kRecordHeaderSize + payload.size());
@@ -81,8 +94,10 @@ private:
     QByteArrayView m_bytes;
 };
 
-// The months of one checked payload; false if it does not parse whole.
-bool decodePayload(QByteArrayView payload, QList<ChangeJournal::Month> *months)
+// The months and files of one checked payload; false if it does not parse
+// whole.
+bool decodePayload(QByteArrayView payload, QList<ChangeJournal::Month> *months,
+                   QList<ChangeJournal::File> *files)
 {
     Cursor cursor(payload);
     quint16 count = 0;
@@ -97,6 +112,20 @@ bool decodePayload(QByteArrayView payload, QList<ChangeJournal::Month> *months)
             || !cursor.take(qsizetype(size), &content))
             return false;
         months->append({year, month, content.toByteArray()});
+    }
+    if (cursor.atEnd())
+        return true;
+    if (!cursor.take(&count))
+        return false;
+    for (quint16 i = 0; i < count; ++i) {
+        quint16 nameSize = 0;
+        QByteArrayView name;
+        quint32 size = 0;
+        QByteArrayView content;
+        if (!cursor.take(&nameSize) || !cursor.take(qsizetype(nameSize), &name)
+            || !cursor.take(&size) || !cursor.take(qsizetype(size), &content))
+            return false;
+        files->append({QString::fromUtf8(name), content.toByteArray()});
     }
     return cursor.atEnd();
 }
@@ -151,7 +180,7 @@ void ChangeJournal::close()
     m_fd = -1;
 }
 
-bool ChangeJournal::append(const QList<Month> &months, QString *error)
+bool ChangeJournal::append(const QList<Month> &months, QString *error, const QList<File> &files)
 {
     if (!open(error))
         return false;
@@ -159,7 +188,7 @@ bool ChangeJournal::append(const QList<Month> &months, QString *error)
     QByteArray bytes;
     if (before == 0)
         bytes.append(kSignature);
-    bytes.append(encodeRecord(months));
+    bytes.append(encodeRecord(months, files));
     if (before >= 0 && writeAll(m_fd, bytes) && ::fdatasync(m_fd) == 0) {
         // A new file's name must reach the disk as well as its content.
         return before > 0 || DurableFile::syncFolder(QFileInfo(m_path).absolutePath(), error);
@@ -204,9 +233,10 @@ ChangeJournal::Contents ChangeJournal::read(const QByteArray &bytes)
         QByteArrayView sum;
         QByteArrayView payload;
         QList<Month> months;
+        QList<File> files;
         if (!cursor.take(&size) || size > kMaxPayload || !cursor.take(kChecksumSize, &sum)
             || !cursor.take(qsizetype(size), &payload) || checksum(payload) != sum
-            || !decodePayload(payload, &months)) {
+            || !decodePayload(payload, &months, &files)) {
             contents.torn = true;
             break;
         }
@@ -215,6 +245,11 @@ ChangeJournal::Contents ChangeJournal::read(const QByteArray &bytes)
                 return earlier.year == month.year && earlier.month == month.month;
             });
             contents.months.append(std::move(month));
+        }
+        for (File &file : files) {
+            contents.files.removeIf(
+                [&file](const File &earlier) { return earlier.name == file.name; });
+            contents.files.append(std::move(file));
         }
     }
     return contents;

@@ -8,6 +8,8 @@
 #include "input/InputWinController.h"
 #include "list/ListWinController.h"
 #include "prefs/PrefWinController.h"
+#include "recurring/DueDialog.h"
+#include "recurring/ScheduleWinController.h"
 
 #include "ledger/DataFolder.h"
 #include "ledger/KController.h"
@@ -44,11 +46,19 @@ using namespace Qt::Literals::StringLiterals;
 KAppController::KAppController(QObject *parent)
     : QObject(parent)
     , m_ledger(std::make_unique<KController>())
+    , m_schedules(new ScheduleBook(m_ledger.get(), this))
     , m_alerts(new LedgerAlerts(m_ledger.get(), this))
     , m_history(new UndoHistory(m_ledger.get(), this))
 {
     createActions();
     connect(m_history, &UndoHistory::stepFailed, m_alerts, &LedgerAlerts::report);
+    connect(m_schedules, &ScheduleBook::unreadable, this, [this](const QString &, const QString &reason) {
+        m_alerts->report(tr("The schedules cannot be read."), reason);
+    });
+    connect(m_schedules, &ScheduleBook::postingFailed, this, [this](const QString &reason) {
+        m_alerts->report(tr("The scheduled entries due could not be booked."), reason);
+    });
+    connect(m_schedules, &ScheduleBook::offered, this, &KAppController::offerDueOccurrences);
 }
 
 KAppController::~KAppController()
@@ -60,6 +70,8 @@ KAppController::~KAppController()
     delete myGraphWinController;
     delete myPrefWinController;
     delete myBalanceWinController;
+    delete myScheduleWinController;
+    delete m_dueDialog;
 }
 
 void KAppController::createActions()
@@ -79,6 +91,8 @@ void KAppController::createActions()
                     &KAppController::showBalanceListWindow);
     addWindowAction(tr("B&udgets…"), BudgetsTag, QKeySequence(Qt::CTRL | Qt::Key_6),
                     &KAppController::showBudgets);
+    addWindowAction(tr("&Schedules"), ScheduleWindowTag, QKeySequence(Qt::CTRL | Qt::Key_5),
+                    &KAppController::showScheduleWindow);
 
     m_preferencesAction = new QAction(tr("&Preferences…"), this);
     m_preferencesAction->setShortcut(QKeySequence::Preferences);
@@ -117,6 +131,7 @@ bool KAppController::validateMenuItem(const QAction *item) const
     case BalanceWindowTag:
     case BudgetsTag:
     case ImportTag:
+    case ScheduleWindowTag:
         return m_running;
     default:
         return true;
@@ -297,8 +312,14 @@ void KAppController::startUp()
     m_ledger->readListPreference();
     // The folder may be shared with another computer through a sync service.
     m_ledger->watchSharedFolder();
-    if (m_inBackground)
+    // Once the journal is replayed: what fell due while Penwick was not
+    // running is booked now, and again at every midnight; what is to be
+    // asked about waits for the windows.
+    m_schedules->load();
+    if (m_inBackground) {
+        m_schedules->postDaily();
         return;
+    }
     openStartWindows();
     // A new user sets up the lists first: the preferences stay in front.
     if (firstStart)
@@ -308,6 +329,7 @@ void KAppController::startUp()
     for (const QString &path : waiting)
         openFile(path);
     m_alerts->offerRescuedMonths();
+    m_schedules->postDaily();
 }
 
 void KAppController::startInBackground()
@@ -382,6 +404,8 @@ void KAppController::showListWindow()
                 &KAppController::showInputWindowWithYear);
         connect(myListWinController, &ListWinController::budgetsRequested, this,
                 &KAppController::showBudgets);
+        connect(myListWinController, &ListWinController::makeRecurringRequested, this,
+                &KAppController::makeRecurring);
     }
     if (myBalanceWinController)
         myBalanceWinController->showDataOfYear(myListWinController->year(),
@@ -552,8 +576,10 @@ void KAppController::activate()
         confirmPassword();
         return;
     }
-    if (std::exchange(m_inBackground, false))
+    if (std::exchange(m_inBackground, false)) {
         openStartWindows();
+        m_schedules->postDaily();
+    }
     keepAWindowOpen();
 }
 
@@ -654,4 +680,43 @@ void KAppController::showAbout()
                           "<p>Your entries are kept month by month in the data folder:<br>%2</p>")
                            .arg(QCoreApplication::applicationVersion(),
                                 QDir::toNativeSeparators(m_ledger->dataFolderPath()).toHtmlEscaped()));
+}
+
+// Recurring entries ---------------------------------------------------------
+
+void KAppController::showScheduleWindow()
+{
+    if (!m_running)
+        return;
+    if (!myScheduleWinController) {
+        myScheduleWinController = new ScheduleWinController(m_schedules, m_ledger.get());
+        installMenuBar(myScheduleWinController);
+    }
+    bringToFront(myScheduleWinController);
+}
+
+void KAppController::makeRecurring(const PaymentDataPtr &record)
+{
+    showScheduleWindow();
+    if (myScheduleWinController)
+        myScheduleWinController->editSchedule(Schedule::fromEntry(*record), true);
+}
+
+void KAppController::offerDueOccurrences(const QList<ScheduleBook::Occurrence> &occurrences)
+{
+    // Those still open are offered again at the next posting.
+    if (m_dueDialog || m_inBackground)
+        return;
+    m_dueDialog = new DueDialog(occurrences, m_ledger->categoryList(), m_ledger->paywayList(),
+                                QApplication::activeWindow());
+    m_dueDialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_dueDialog, &DueDialog::answered, this,
+            [this](const QList<ScheduleBook::Occurrence> &answers) {
+                QString error;
+                if (m_schedules->settle(answers, &error))
+                    m_dueDialog->accept();
+                else
+                    m_dueDialog->refuse(error);
+            });
+    m_dueDialog->open();
 }

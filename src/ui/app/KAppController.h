@@ -1,5 +1,6 @@
 #pragma once
 
+#include "recurring/ScheduleBook.h"
 #include "script/ScriptHost.h"
 
 #include <QKeySequence>
@@ -11,6 +12,7 @@
 
 class BalanceWinController;
 class ConfirmPassPanelController;
+class DueDialog;
 class GraphWinController;
 class InputWinController;
 class KController;
@@ -18,6 +20,8 @@ class LedgerAlerts;
 class UndoHistory;
 class ListWinController;
 class PrefWinController;
+class ScheduleBook;
+class ScheduleWinController;
 class QAction;
 class QMenuBar;
 class QWidget;
@@ -35,7 +39,8 @@ public:
     // Menu items whose tag is one of these act on the account book and stay
     // disabled until start-up has passed the password.
     enum MenuTag { InputWindowTag = 102, ListWindowTag = 404, GraphWindowTag = 405,
-                   BalanceWindowTag = 406, ImportTag = 407, BudgetsTag = 420 };
+                   BalanceWindowTag = 406, ImportTag = 407, ScheduleWindowTag = 408,
+                   BudgetsTag = 420 };
 
     explicit KAppController(QObject *parent = nullptr);
     ~KAppController() override;
@@ -103,6 +108,15 @@ public:
     // for one first.
     void showImport(const QString &path, QWidget *window);
 
+    // Recurring entries ---------------------------------------------------
+    ScheduleBook *scheduleBook() const { return m_schedules; }
+    void showScheduleWindow();
+    // The schedules window with a new schedule made from the entry.
+    void makeRecurring(const PaymentDataPtr &record);
+    // The occurrences of ask-first schedules that are due, in one dialog; a
+    // dialog open already is left to be answered first.
+    void offerDueOccurrences(const QList<ScheduleBook::Occurrence> &occurrences);
+
 protected:
     // Files dropped on the input and list windows open the import preview.
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -134,6 +148,11 @@ private:
     void offerImport(QWidget *window, QMenuBar *bar);
 
     std::unique_ptr<KController> m_ledger;
+    // Made with the ledger, so that a renumbering finished at start-up
+    // carries the schedules too.
+    ScheduleBook *m_schedules;
+    QPointer<ScheduleWinController> myScheduleWinController;
+    QPointer<DueDialog> m_dueDialog;
     LedgerAlerts *m_alerts;
     UndoHistory *m_history;
     bool m_running = false;

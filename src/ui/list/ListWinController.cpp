@@ -124,7 +124,10 @@ void ListWinController::buildWindow()
     m_listTable = new EntryTableView(m_model, central);
     connect(m_listTable->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         m_deleteAction->setEnabled(isListEditable() && !m_listTable->selectedRecords().isEmpty());
+        m_makeRecurringAction->setEnabled(m_listTable->selectedRecords().size() == 1);
     });
+    m_listTable->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_listTable->addAction(m_makeRecurringAction);
 
     // Stacked panes: the table above, totals and memo below.
     m_splitView = new SavableSplitView(Qt::Vertical, central);
@@ -220,6 +223,13 @@ QWidget *ListWinController::buildMonthBar()
     m_deleteAction = new QAction(tr("&Delete Entries…"), this);
     m_deleteAction->setShortcut(QKeySequence::Delete);
     connect(m_deleteAction, &QAction::triggered, this, &ListWinController::deleteData);
+    // A schedule made from the one entry selected.
+    m_makeRecurringAction = new QAction(tr("Make &Recurring…"), this);
+    m_makeRecurringAction->setEnabled(false);
+    connect(m_makeRecurringAction, &QAction::triggered, this, [this] {
+        if (const PaymentArray records = m_listTable->selectedRecords(); records.size() == 1)
+            emit makeRecurringRequested(records.constFirst());
+    });
 
     layout->addWidget(toolButton(m_previousAction, QStringLiteral("previousButton"),
                                  Qt::ToolButtonIconOnly));
@@ -294,6 +304,8 @@ void ListWinController::buildMenus()
     edit->setObjectName(QStringLiteral("editMenu"));
     edit->addAction(m_editAction);
     edit->addAction(m_deleteAction);
+    edit->addSeparator();
+    edit->addAction(m_makeRecurringAction);
 
     QMenu *view = menuBar()->addMenu(tr("&View"));
     view->addAction(m_previousAction);

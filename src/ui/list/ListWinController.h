@@ -93,6 +93,8 @@ signals:
     void inputWindowRequested(int year, int month, int date);
     // The user wants to edit the budgets of the month shown.
     void budgetsRequested();
+    // The user wants the entry to come back as a schedule.
+    void makeRecurringRequested(const PaymentDataPtr &record);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -141,6 +143,7 @@ private:
     QAction *m_editAction = nullptr;
     QAction *m_newAction = nullptr;
     QAction *m_deleteAction = nullptr;
+    QAction *m_makeRecurringAction = nullptr;
     QAction *m_previousAction = nullptr;
     QAction *m_nextAction = nullptr;
     QAction *m_printAction = nullptr;
