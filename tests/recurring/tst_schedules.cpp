@@ -2,6 +2,7 @@
 #include "TestDataFolder.h"
 #include "TestHelpers.h"
 
+#include "budget/BudgetBook.h"
 #include "ledger/KController.h"
 #include "recurring/ScheduleBook.h"
 #include "recurring/ScheduleFile.h"
@@ -75,7 +76,7 @@ private slots:
     void impossibleRulesAreRefused_data();
     void impossibleRulesAreRefused();
     void postingBooksEachOccurrenceOnce();
-    void renumberingCarriesSchedulesAlong();
+    void renumberingCarriesSchedulesAndBudgetsAlong();
     void anUnreadableFileIsLeftAlone();
     void killedPostingNeverBooksTwice();
 };
@@ -254,7 +255,7 @@ void TestSchedules::postingBooksEachOccurrenceOnce()
     QCOMPARE(reread.schedules().constFirst().nextDate(), date("2024-03-31"));
 }
 
-void TestSchedules::renumberingCarriesSchedulesAlong()
+void TestSchedules::renumberingCarriesSchedulesAndBudgetsAlong()
 {
     TestDataFolder home;
     const QString folder = home.freshDataFolder();
@@ -271,6 +272,10 @@ void TestSchedules::renumberingCarriesSchedulesAlong()
     s.payway = 1;
     QVERIFY(book.add(s));
     const QByteArray before = readBytes(home.filePath(ScheduleFile::FileName));
+    BudgetPlan plan;
+    plan.categories.insert(0, CategoryBudget{15000});
+    QVERIFY(ledger.budgets()->setPlan(plan));
+    const auto budgeted = [&ledger] { return ledger.budgets()->plan().categories.keys(); };
 
     // Category 0 and 1 change places, payways 0 and 2: the schedule follows.
     QString error;
@@ -278,14 +283,17 @@ void TestSchedules::renumberingCarriesSchedulesAlong()
     QCOMPARE(book.schedules().constFirst().category, 1);
     QCOMPARE(book.schedules().constFirst().payway, 1);
     QCOMPARE(ScheduleFile::decode(readBytes(home.filePath(ScheduleFile::FileName)))->constFirst().category, 1);
+    QCOMPARE(budgeted(), QList<int>{1});
     QCOMPARE(recorded.size(), 1);
-    QCOMPARE(recorded.constFirst().files.size(), 1);
+    QCOMPARE(recorded.constFirst().files.size(), 2);
 
     const QByteArray after = readBytes(home.filePath(ScheduleFile::FileName));
     QVERIFY2(ledger.restoreChange(recorded.constFirst(), true, &error), qPrintable(error));
     QCOMPARE(readBytes(home.filePath(ScheduleFile::FileName)), before);
     QCOMPARE(book.schedules().constFirst().category, 0);
+    QCOMPARE(budgeted(), QList<int>{0});
     QVERIFY2(ledger.restoreChange(recorded.constFirst(), false, &error), qPrintable(error));
+    QCOMPARE(budgeted(), QList<int>{1});
     QCOMPARE(readBytes(home.filePath(ScheduleFile::FileName)), after);
     QCOMPARE(book.schedules().constFirst().category, 1);
     QVERIFY(!QFile::exists(home.filePath(ScheduleFile::FileName + u".converting"_s)));
