@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
+#include <QVarLengthArray>
 
 #include <memory>
 #include <optional>
@@ -34,6 +35,8 @@ public:
     // "csv", "qif", "ofx", "xhb" (as on the command line).
     static std::optional<Format> formatNamed(QStringView name);
 
-    // The non-empty parts, trimmed, joined as one line of details.
-    static QString joinDetails(const QStringList &parts);
+    // The non-empty parts, trimmed, joined as one line of details, each
+    // once.
+    using DetailParts = QVarLengthArray<QStringView, 4>;
+    static QString joinDetails(const DetailParts &parts);
 };
