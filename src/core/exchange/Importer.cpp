@@ -5,21 +5,9 @@
 #include "OfxImporter.h"
 #include "QifImporter.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
-
-ImportResult Importer::read(const QString &path) const
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        ImportResult result;
-        result.error = tr("%1 cannot be read: %2").arg(QFileInfo(path).fileName(), file.errorString());
-        return result;
-    }
-    return parse(file.readAll());
-}
 
 std::unique_ptr<Importer> Importer::forFormat(Format format)
 {

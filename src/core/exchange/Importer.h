@@ -23,8 +23,6 @@ public:
 
     virtual ~Importer() = default;
     virtual ImportResult parse(const QByteArray &bytes) const = 0;
-    // The file's bytes parsed; an error when it cannot be read.
-    ImportResult read(const QString &path) const;
 
     // The reader of a format, with its defaults (a CSV file's columns from
     // its header or content).
