@@ -117,7 +117,9 @@ ImportDialog::ImportDialog(KController *ledger, const QString &path, QWidget *pa
     m_names->setWordWrap(false);
     m_names->setSelectionMode(QAbstractItemView::NoSelection);
     m_names->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_names->horizontalHeader()->setSectionResizeMode(NameInFile, QHeaderView::Stretch);
+    // The names as long as they are; the boxes take the rest.
+    m_names->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_names->horizontalHeader()->setSectionResizeMode(NameBookedAs, QHeaderView::Stretch);
     m_namesLabel = new QLabel(tr("Names without a &match:"), this);
     m_namesLabel->setBuddy(m_names);
     form->addRow(m_namesLabel, m_names);
@@ -315,8 +317,6 @@ void ImportDialog::showUnmatched()
     m_namesLabel->setVisible(any);
     if (!any)
         return;
-    m_names->resizeColumnsToContents();
-    m_names->horizontalHeader()->setSectionResizeMode(NameInFile, QHeaderView::Stretch);
     // A few rows at a time; a file of many names scrolls.
     const int rows = std::min(m_names->rowCount(), 5);
     m_names->setFixedHeight(m_names->horizontalHeader()->sizeHint().height() + rows * m_names->rowHeight(0)
