@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # Builds a fuzz target with clang in build-fuzz and runs it for the given
-# number of seconds (default 60):  scripts/fuzz.sh typedstream|propertylist|csv|qif [seconds]
+# number of seconds (default 60):  scripts/fuzz.sh typedstream|propertylist|csv|qif|homebank [seconds]
 # New inputs go to build-fuzz/corpus/<target>, crashing ones to
 # build-fuzz/crashes/; the seeds in fuzz/corpus/<target> are only read.
 set -euo pipefail
 
 target=${1:-}
 seconds=${2:-60}
-if ! [[ "$target" =~ ^(typedstream|propertylist|csv|qif)$ && "$seconds" =~ ^[0-9]+$ ]]; then
-  echo "usage: $0 typedstream|propertylist|csv|qif [seconds]" >&2
+if ! [[ "$target" =~ ^(typedstream|propertylist|csv|qif|homebank)$ && "$seconds" =~ ^[0-9]+$ ]]; then
+  echo "usage: $0 typedstream|propertylist|csv|qif|homebank [seconds]" >&2
   exit 2
 fi
 

@@ -1963,10 +1963,6 @@ Show Details… tells more of each.</translation>
             <translation>The HomeBank file is damaged at line %1: %2</translation>
         </message>
         <message>
-            <source>%1 cannot be read: %2</source>
-            <translation>%1 cannot be read: %2</translation>
-        </message>
-        <message>
             <source>This is not an OFX file.</source>
             <translation>This is not an OFX file.</translation>
         </message>
@@ -2031,14 +2027,6 @@ Show Details… tells more of each.</translation>
         <message>
             <source>No entry is ticked for booking.</source>
             <translation>No entry is ticked for booking.</translation>
-        </message>
-        <message>
-            <source>&apos;%1&apos; is not of the form SOURCE=CATEGORY.</source>
-            <translation>&apos;%1&apos; is not of the form SOURCE=CATEGORY.</translation>
-        </message>
-        <message>
-            <source>There is no category &apos;%1&apos;.</source>
-            <translation>There is no category &apos;%1&apos;.</translation>
         </message>
     </context>
     <context>
@@ -2219,10 +2207,6 @@ Show Details… tells more of each.</translation>
             <translation>Column %1</translation>
         </message>
         <message>
-            <source>%1 is empty or cannot be read.</source>
-            <translation>%1 is empty or cannot be read.</translation>
-        </message>
-        <message>
             <source>Line %1: %2</source>
             <translation>Line %1: %2</translation>
         </message>
@@ -2240,6 +2224,52 @@ Show Details… tells more of each.</translation>
         <message>
             <source>Cancel</source>
             <translation>Cancel</translation>
+        </message>
+        <message>
+            <source>List</source>
+            <translation>List</translation>
+        </message>
+        <message>
+            <source>In the file</source>
+            <translation>In the file</translation>
+        </message>
+        <message>
+            <source>Booked as</source>
+            <translation>Booked as</translation>
+        </message>
+        <message>
+            <source>Names without a &amp;match:</source>
+            <translation>Names without a &amp;match:</translation>
+        </message>
+        <message>
+            <source>%1 booked as</source>
+            <translation>%1 booked as</translation>
+        </message>
+        <message>
+            <source>Like the others (%1)</source>
+            <translation>Like the others (%1)</translation>
+        </message>
+    </context>
+    <context>
+        <name>FileToImport</name>
+        <message>
+            <source>%1 cannot be read: %2</source>
+            <translation>%1 cannot be read: %2</translation>
+        </message>
+        <message>
+            <source>%1 is empty.</source>
+            <translation>%1 is empty.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ImportMapping</name>
+        <message>
+            <source>&apos;%1&apos; is not of the form SOURCE=CATEGORY.</source>
+            <translation>&apos;%1&apos; is not of the form SOURCE=CATEGORY.</translation>
+        </message>
+        <message>
+            <source>There is no category &apos;%1&apos;.</source>
+            <translation>There is no category &apos;%1&apos;.</translation>
         </message>
     </context>
     <context>

@@ -1960,10 +1960,6 @@ Show Details… tells more of each.</source>
             <translation>HomeBank のファイルが %1 行目で壊れています: %2</translation>
         </message>
         <message>
-            <source>%1 cannot be read: %2</source>
-            <translation>%1 を読み込めません: %2</translation>
-        </message>
-        <message>
             <source>This is not an OFX file.</source>
             <translation>OFX のファイルではありません。</translation>
         </message>
@@ -2023,14 +2019,6 @@ Show Details… tells more of each.</source>
         <message>
             <source>No entry is ticked for booking.</source>
             <translation>記帳する項目にチェックがありません。</translation>
-        </message>
-        <message>
-            <source>&apos;%1&apos; is not of the form SOURCE=CATEGORY.</source>
-            <translation>&apos;%1&apos; は SOURCE=CATEGORY の形ではありません。</translation>
-        </message>
-        <message>
-            <source>There is no category &apos;%1&apos;.</source>
-            <translation>分類 &apos;%1&apos; はありません。</translation>
         </message>
     </context>
     <context>
@@ -2211,10 +2199,6 @@ Show Details… tells more of each.</source>
             <translation>%1 列目</translation>
         </message>
         <message>
-            <source>%1 is empty or cannot be read.</source>
-            <translation>%1 は空か、読み込めません。</translation>
-        </message>
-        <message>
             <source>Line %1: %2</source>
             <translation>%1 行目: %2</translation>
         </message>
@@ -2231,6 +2215,52 @@ Show Details… tells more of each.</source>
         <message>
             <source>Cancel</source>
             <translation>キャンセル</translation>
+        </message>
+        <message>
+            <source>List</source>
+            <translation>項目</translation>
+        </message>
+        <message>
+            <source>In the file</source>
+            <translation>ファイルでの名前</translation>
+        </message>
+        <message>
+            <source>Booked as</source>
+            <translation>記帳先</translation>
+        </message>
+        <message>
+            <source>Names without a &amp;match:</source>
+            <translation>一致しない名前(&amp;M):</translation>
+        </message>
+        <message>
+            <source>%1 booked as</source>
+            <translation>%1 の記帳先</translation>
+        </message>
+        <message>
+            <source>Like the others (%1)</source>
+            <translation>ほかと同じ (%1)</translation>
+        </message>
+    </context>
+    <context>
+        <name>FileToImport</name>
+        <message>
+            <source>%1 cannot be read: %2</source>
+            <translation>%1 を読み込めません: %2</translation>
+        </message>
+        <message>
+            <source>%1 is empty.</source>
+            <translation>%1 は空です。</translation>
+        </message>
+    </context>
+    <context>
+        <name>ImportMapping</name>
+        <message>
+            <source>&apos;%1&apos; is not of the form SOURCE=CATEGORY.</source>
+            <translation>&apos;%1&apos; は SOURCE=CATEGORY の形ではありません。</translation>
+        </message>
+        <message>
+            <source>There is no category &apos;%1&apos;.</source>
+            <translation>分類 &apos;%1&apos; はありません。</translation>
         </message>
     </context>
     <context>

@@ -3,6 +3,7 @@
 #include "ScriptService.h"
 
 #include "exchange/CsvExport.h"
+#include "exchange/FileToImport.h"
 #include "exchange/LedgerImport.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
@@ -13,7 +14,6 @@
 #include "script/ScriptHost.h"
 #include "script/ScriptNames.h"
 
-#include <QFile>
 #include <QJsonDocument>
 
 using namespace Qt::Literals::StringLiterals;
@@ -162,24 +162,17 @@ QString ScriptApplication::ImportFile(const QString &path, const QVariantMap &op
         }
     }
     QString error;
-    const auto mapping = LedgerImport::mappingWith(*open, plain.value(u"categories"_s).toStringList(), &error);
-    if (!mapping) {
+    ImportMapping mapping = LedgerImport::mappingFor(*open);
+    if (!mapping.chooseCategories(plain.value(u"categories"_s).toStringList(), &error)) {
         sendErrorReply(ScriptNames::InvalidArgsError, error);
         return {};
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        sendErrorReply(ScriptNames::UnreadableError, u"%1: %2"_s.arg(path, file.errorString()));
-        return {};
-    }
-    const QByteArray bytes = file.readAll();
-    const auto importer = Importer::forFormat(format.value_or(Importer::detect(path, bytes)));
-    ImportResult imported = importer->parse(bytes);
+    ImportResult imported = FileToImport(path, format).read();
     if (imported.failed()) {
         sendErrorReply(ScriptNames::UnreadableError, imported.error);
         return {};
     }
-    LedgerImport import(*open, std::move(imported), *mapping);
+    LedgerImport import(*open, std::move(imported), mapping);
     const bool dryRun = plain.value(u"dryRun"_s).toBool();
     if (!dryRun && import.report().booked > 0 && !import.book(&error)) {
         sendErrorReply(ScriptNames::BookingFailedError, error);

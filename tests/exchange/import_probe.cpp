@@ -5,7 +5,7 @@
 //
 //   import_probe FOLDER FILE
 
-#include "exchange/Importer.h"
+#include "exchange/FileToImport.h"
 #include "exchange/LedgerImport.h"
 #include "settings/Settings.h"
 
@@ -30,8 +30,7 @@ int main(int argc, char *argv[])
     if (!controller.replayChangeJournal(&problem))
         std::fprintf(stderr, "import_probe: %s\n", qPrintable(problem));
     controller.readListPreference();
-    const auto importer = Importer::forFormat(Importer::Format::Csv);
-    LedgerImport import(controller, importer->read(file),
+    LedgerImport import(controller, FileToImport(file, Importer::Format::Csv).read(),
                         ImportMapping(controller.categoryList(), controller.paywayList()));
     std::printf("ready\n");
     std::fflush(stdout);

@@ -19,5 +19,9 @@ namespace AmountReading {
 DecimalMark markOf(const QStringList &texts);
 // The signed value; nothing for an empty text or one that is not an amount.
 std::optional<double> read(QStringView text, DecimalMark mark);
+// A number as programs write them for each other ("-1234.5", "1e-05"):
+// an optional sign, digits, a point, an exponent and nothing else; nothing
+// for any other text, and for infinities.
+std::optional<double> readPlain(QStringView text);
 
 } // namespace AmountReading

@@ -139,7 +139,8 @@ CsvImporter::Reading CsvImporter::readCsv(const QByteArray &bytes) const
             if (mapping.roles.at(c) == Role::Details)
                 details.append(row.fields.value(c));
         }
-        entry.details = mapping.exactDetails ? details.join(u' ') : joinDetails(details);
+        entry.details = mapping.exactDetails ? details.join(u' ')
+                                              : joinDetails(DetailParts(details.cbegin(), details.cend()));
         entry.category = field(Role::Category);
         entry.payway = field(Role::Payway);
         result.entries.append(entry);

@@ -1,5 +1,7 @@
 #include "HomeBankImporter.h"
 
+#include "AmountReading.h"
+
 #include <QHash>
 #include <QXmlStreamReader>
 
@@ -9,51 +11,70 @@ namespace {
 
 // The day number of 1 January of the year 1 less one, as a Julian day.
 constexpr qint64 DayZero = 1721425;
+// Beyond the year 9999 is no date of a household's.
+constexpr qint64 DayLimit = 3652060;
 // The category flag that marks income.
 constexpr int IncomeFlag = 1 << 1;
 
-struct Category
-{
-    QString name;
-    int parent = 0;
-    bool income = false;
-};
-
 // HomeBank's payment modes by number, in its own order.
-QString paymodeName(int mode)
+const QStringList &paymodeNames()
 {
     static const QStringList names{{}, u"Credit card"_s, u"Cheque"_s, u"Cash"_s, u"Transfer"_s,
                                    u"Internal transfer"_s, u"Debit card"_s, u"Standing order"_s,
                                    u"Electronic payment"_s, u"Deposit"_s, u"FI fee"_s,
                                    u"Direct debit"_s};
-    return names.value(mode);
+    return names;
 }
 
-// An operation's attributes, taken in one pass: looking each up by name
-// is what a file of a hundred thousand operations spends its time on.
-struct Operation
+// The categories and payees the operations refer to by number.
+struct Lists
 {
-    int line = 0;
-    qint64 day = 0;
-    double amount = 0;
-    bool amountOk = false;
-    QString amountText;
-    int paymode = 0;
-    int payee = 0;
-    int category = 0;
-    QString memo;
-    QString wording;
-    QString info;
-    bool split = false;
-    QString splitCategories;
-    QString splitAmounts;
-    QString splitMemos;
+    struct Category
+    {
+        QString name;
+        int parent = 0;
+        bool income = false;
+    };
+    QHash<int, Category> categories;
+    QHash<int, QString> payees;
+    // Each category's "Parent:Child" name and income flag, made once.
+    QHash<int, std::pair<QString, bool>> categoryNames;
+
+    void add(QStringView element, const QXmlStreamAttributes &attributes)
+    {
+        const int key = attributes.value("key"_L1).toInt();
+        if (element == "cat"_L1) {
+            categories.insert(key, {attributes.value("name"_L1).toString(), attributes.value("parent"_L1).toInt(),
+                                    (attributes.value("flags"_L1).toInt() & IncomeFlag) != 0});
+        } else {
+            payees.insert(key, attributes.value("name"_L1).toString());
+        }
+    }
+
+    void nameCategories()
+    {
+        for (auto c = categories.cbegin(); c != categories.cend(); ++c) {
+            const auto parent = categories.constFind(c->parent);
+            if (c->parent == 0 || parent == categories.cend())
+                categoryNames.insert(c.key(), {c->name, c->income});
+            else
+                categoryNames.insert(c.key(), {parent->name + u':' + c->name, c->income || parent->income});
+        }
+    }
 };
 
-Operation operationOf(const QXmlStreamAttributes &attributes, int line)
+// The entries of one operation (one per split), or why it cannot be read.
+// Its attributes are taken in one pass, by view: a file holds a hundred
+// thousand operations, and looking each attribute up by name, or copying
+// it, is what reading them would spend its time on.
+void addOperation(const QXmlStreamAttributes &attributes, int line, const Lists &lists, ImportResult &result)
 {
-    Operation operation;
-    operation.line = line;
+    qint64 day = 0;
+    int paymode = 0;
+    int payeeKey = 0;
+    int category = 0;
+    bool split = false;
+    QStringView amount, memo, wording, info, splitCategories, splitAmounts, splitMemos;
     for (const QXmlStreamAttribute &attribute : attributes) {
         const QStringView name = attribute.name();
         const QStringView value = attribute.value();
@@ -62,65 +83,91 @@ Operation operationOf(const QXmlStreamAttributes &attributes, int line)
         // By first letter, so that each name is compared once.
         switch (name.front().unicode()) {
         case 'a':
-            if (name == u"amount") {
-                operation.amount = value.toDouble(&operation.amountOk);
-                if (!operation.amountOk)
-                    operation.amountText = value.toString(); // for the message
-            }
+            if (name == u"amount")
+                amount = value;
             break;
         case 'c':
             if (name == u"category")
-                operation.category = value.toInt();
+                category = value.toInt();
             break;
         case 'd':
             if (name == u"date")
-                operation.day = value.toLongLong();
+                day = value.toLongLong();
             break;
         case 'i':
             if (name == u"info")
-                operation.info = value.toString();
+                info = value;
             break;
         case 'm':
             if (name == u"memo")
-                operation.memo = value.toString();
+                memo = value;
             break;
         case 'p':
             if (name == u"paymode")
-                operation.paymode = value.toInt();
+                paymode = value.toInt();
             else if (name == u"payee")
-                operation.payee = value.toInt();
+                payeeKey = value.toInt();
             break;
         case 's':
-            if (name == u"scat")
-                operation.splitCategories = value.toString();
-            else if (name == u"samt")
-                operation.splitAmounts = value.toString();
-            else if (name == u"smem")
-                operation.splitMemos = value.toString();
+            if (name == u"scat") {
+                splitCategories = value;
+            } else if (name == u"samt") {
+                splitAmounts = value;
+                split = true;
+            } else if (name == u"smem") {
+                splitMemos = value;
+            }
             break;
         case 'w':
             if (name == u"wording") // what older files call the memo
-                operation.wording = value.toString();
+                wording = value;
             break;
         default:
             break;
         }
     }
-    if (operation.memo.isEmpty())
-        operation.memo = operation.wording;
-    operation.split = attributes.hasAttribute("samt"_L1);
-    return operation;
+    if (day <= 0 || day >= DayLimit) {
+        result.problems.append({line, Importer::tr("The date is missing.")});
+        return;
+    }
+    if (memo.isEmpty())
+        memo = wording;
+    CandidateEntry entry;
+    entry.date = QDate::fromJulianDay(day + DayZero);
+    entry.line = line;
+    entry.payway = paymodeNames().value(paymode);
+    const QString payee = lists.payees.value(payeeKey);
+    const auto add = [&](QStringView amountText, int category, QStringView memo) {
+        const auto value = AmountReading::readPlain(amountText);
+        if (!value) {
+            result.problems.append({line, amountText.isEmpty()
+                                              ? Importer::tr("The amount is missing.")
+                                              : Importer::tr("'%1' is not an amount.").arg(amountText)});
+            return;
+        }
+        entry.amount = *value;
+        std::tie(entry.category, entry.incomeCategory) = lists.categoryNames.value(category);
+        entry.details = Importer::joinDetails({payee, memo, info});
+        result.entries.append(entry);
+    };
+    if (!split) {
+        add(amount, category, memo);
+        return;
+    }
+    const QList<QStringView> amounts = splitAmounts.split(u"||");
+    const QList<QStringView> categories = splitCategories.split(u"||");
+    const QList<QStringView> memos = splitMemos.split(u"||");
+    for (qsizetype i = 0; i < amounts.size(); ++i) {
+        const QStringView splitMemo = memos.value(i);
+        add(amounts.at(i), categories.value(i).toInt(), splitMemo.isEmpty() ? memo : splitMemo);
+    }
 }
 
-} // namespace
-
-Q_DECLARE_TYPEINFO(Operation, Q_RELOCATABLE_TYPE);
-
-namespace {
-
-} // namespace
-
-ImportResult HomeBankImporter::parse(const QByteArray &bytes) const
+// One reading of the file. Files as HomeBank writes them list categories
+// and payees before the operations, and one reading is enough; where one
+// comes after an operation, it sets `late`, and the operations are read
+// again with every list known.
+ImportResult readFile(const QByteArray &bytes, Lists &lists, bool listsKnown, bool &late)
 {
     ImportResult result;
     QXmlStreamReader xml(bytes);
@@ -131,19 +178,18 @@ ImportResult HomeBankImporter::parse(const QByteArray &bytes) const
         result.error = Importer::tr("This is not a HomeBank file.");
         return result;
     }
-    QHash<int, Category> categories;
-    QHash<int, QString> payees;
-    QList<Operation> operations;
+    bool named = listsKnown;
     while (xml.readNextStartElement()) {
-        const QXmlStreamAttributes attributes = xml.attributes();
-        if (xml.name() == "ope"_L1) {
-            operations.append(operationOf(attributes, int(xml.lineNumber())));
-        } else if (xml.name() == "cat"_L1) {
-            categories.insert(attributes.value("key"_L1).toInt(),
-                              {attributes.value("name"_L1).toString(), attributes.value("parent"_L1).toInt(),
-                               (attributes.value("flags"_L1).toInt() & IncomeFlag) != 0});
-        } else if (xml.name() == "pay"_L1) {
-            payees.insert(attributes.value("key"_L1).toInt(), attributes.value("name"_L1).toString());
+        const QStringView element = xml.name();
+        if (element == "ope"_L1 && !late) {
+            if (!named) {
+                lists.nameCategories();
+                named = true;
+            }
+            addOperation(xml.attributes(), int(xml.lineNumber()), lists, result);
+        } else if (!listsKnown && (element == "cat"_L1 || element == "pay"_L1)) {
+            lists.add(element, xml.attributes());
+            late = named;
         }
         xml.skipCurrentElement();
     }
@@ -151,60 +197,20 @@ ImportResult HomeBankImporter::parse(const QByteArray &bytes) const
         result.error = Importer::tr("The HomeBank file is damaged at line %1: %2")
                            .arg(xml.lineNumber())
                            .arg(xml.errorString());
-        return result;
-    }
-
-    // Each category's full name and income flag, once.
-    QHash<int, std::pair<QString, bool>> categoryNames;
-    for (auto c = categories.cbegin(); c != categories.cend(); ++c) {
-        const auto parent = categories.constFind(c->parent);
-        if (c->parent == 0 || parent == categories.cend())
-            categoryNames.insert(c.key(), {c->name, c->income});
-        else
-            categoryNames.insert(c.key(), {parent->name + u':' + c->name, c->income || parent->income});
-    }
-    result.entries.reserve(operations.size());
-    for (const Operation &operation : operations) {
-        // Beyond the year 9999 is no date of a household's.
-        const QDate date = operation.day > 0 && operation.day < 3652060
-            ? QDate::fromJulianDay(operation.day + DayZero) : QDate();
-        if (!date.isValid()) {
-            result.problems.append({operation.line, Importer::tr("The date is missing.")});
-            continue;
-        }
-        CandidateEntry entry;
-        entry.date = date;
-        entry.line = operation.line;
-        entry.payway = paymodeName(operation.paymode);
-        const QString payee = payees.value(operation.payee);
-
-        const auto add = [&](double amount, bool amountOk, const QString &amountText, int category,
-                             const QString &memo) {
-            entry.amount = amount;
-            if (!amountOk) {
-                result.problems.append({operation.line,
-                                        amountText.isEmpty()
-                                            ? Importer::tr("The amount is missing.")
-                                            : Importer::tr("'%1' is not an amount.").arg(amountText)});
-                return;
-            }
-            std::tie(entry.category, entry.incomeCategory) = categoryNames.value(category);
-            entry.details = joinDetails({payee, memo.isEmpty() ? operation.memo : memo, operation.info});
-            result.entries.append(entry);
-        };
-        if (!operation.split) {
-            add(operation.amount, operation.amountOk, operation.amountText, operation.category,
-                operation.memo);
-            continue;
-        }
-        const QStringList splitCategories = operation.splitCategories.split(u"||"_s);
-        const QStringList splitAmounts = operation.splitAmounts.split(u"||"_s);
-        const QStringList splitMemos = operation.splitMemos.split(u"||"_s);
-        for (qsizetype i = 0; i < splitAmounts.size(); ++i) {
-            bool amountOk = false;
-            const double amount = splitAmounts.at(i).toDouble(&amountOk);
-            add(amount, amountOk, splitAmounts.at(i), splitCategories.value(i).toInt(), splitMemos.value(i));
-        }
     }
     return result;
+}
+
+} // namespace
+
+ImportResult HomeBankImporter::parse(const QByteArray &bytes) const
+{
+    Lists lists;
+    bool late = false;
+    ImportResult result = readFile(bytes, lists, false, late);
+    if (!late || result.failed())
+        return result;
+    lists.nameCategories();
+    bool again = false;
+    return readFile(bytes, lists, true, again);
 }

@@ -4,6 +4,7 @@
 
 #include "model/PaymentData.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QStringList>
 
@@ -30,21 +31,48 @@ struct MappedEntry
 // name, without regard to case or character width ("ｆｏｏｄ" is "Food"),
 // trying "Parent:Child" whole, then each part from the child up. Entries in
 // an income category of the source, and positive amounts where the source
-// has signs, go to income (the last category). The rest go to a category
-// chosen for them, or to a new one that is added just before income.
+// has signs, go to income (the last category). A name that matches none of
+// ours goes where it is chosen to go, else with the rest of the unmatched:
+// to a category chosen for them, or to a new one that is added just before
+// income; payment modes to the first payway.
 class ImportMapping
 {
+    Q_DECLARE_TR_FUNCTIONS(ImportMapping)
+
 public:
     ImportMapping(const QStringList &categories, const QStringList &payways);
 
-    // Where a source name goes, whatever our lists call things.
+    struct Unmatched
+    {
+        QStringList categories;
+        QStringList payways;
+    };
+
+    // Where a source name goes, whatever our lists call things; a negative
+    // index takes the choice back.
     void setCategoryFor(const QString &sourceName, int category);
+    void setPaywayFor(const QString &sourceName, int payway);
+    std::optional<int> categoryChosenFor(const QString &sourceName) const;
+    std::optional<int> paywayChosenFor(const QString &sourceName) const;
+    // Choices written "SOURCE=OURS", ours by name (as names are compared).
+    // False, with the reason, when one is malformed or names no category of
+    // ours; the choices before it are taken.
+    bool chooseCategories(const QStringList &choices, QString *error);
+    // The choices of earlier imports (the user's settings), where what they
+    // name is still on our lists; and this mapping's choices for these names
+    // kept for later (those without one forgotten).
+    void recallChoices();
+    void rememberChoices(const Unmatched &names) const;
+
     // The category of the unmatched (by default the first).
     void setUnmatchedCategory(int category);
     // Or a new category of this name for them.
     void setNewCategory(const QString &name);
-    // The payway of entries whose payment mode matches none (by default the first).
-    void setUnmatchedPayway(int payway);
+
+    // The file's category and payment mode names that match none of ours by
+    // name, whatever is chosen for them, in the file's order; categories
+    // only where some entry of theirs is not income.
+    Unmatched unmatched(const ImportResult &imported) const;
 
     struct Result
     {
@@ -66,13 +94,16 @@ public:
     static QString nameKey(QStringView name);
 
 private:
-    std::optional<int> categoryByName(const QString &sourceName) const;
+    // Ours by name, or with the choices first.
+    std::optional<int> categoryByName(const QString &sourceName, bool withChoices) const;
+    std::optional<int> paywayByName(const QString &sourceName, bool withChoices) const;
 
     QStringList m_categories;
+    QStringList m_payways;
     QHash<QString, int> m_categoryKeys;
     QHash<QString, int> m_paywayKeys;
     QHash<QString, int> m_chosen;
+    QHash<QString, int> m_chosenPayways;
     int m_unmatchedCategory = 0;
     QString m_newCategory;
-    int m_unmatchedPayway = 0;
 };

@@ -5,21 +5,9 @@
 #include "OfxImporter.h"
 #include "QifImporter.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
-
-ImportResult Importer::read(const QString &path) const
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        ImportResult result;
-        result.error = tr("%1 cannot be read: %2").arg(QFileInfo(path).fileName(), file.errorString());
-        return result;
-    }
-    return parse(file.readAll());
-}
 
 std::unique_ptr<Importer> Importer::forFormat(Format format)
 {
@@ -63,17 +51,21 @@ std::optional<Importer::Format> Importer::formatNamed(QStringView name)
     return *found;
 }
 
-QString Importer::joinDetails(const QStringList &parts)
+QString Importer::joinDetails(const DetailParts &parts)
 {
-    // Called once per entry: one string built, no list of the kept parts.
+    // Called once per entry: one string, allocated once.
+    DetailParts kept;
+    qsizetype length = 0;
+    for (const QStringView part : parts) {
+        const QStringView text = part.trimmed();
+        if (!text.isEmpty() && !kept.contains(text)) {
+            kept.append(text);
+            length += text.size() + 3;
+        }
+    }
     QString joined;
-    for (qsizetype i = 0; i < parts.size(); ++i) {
-        const QStringView text = QStringView(parts.at(i)).trimmed();
-        bool seen = text.isEmpty();
-        for (qsizetype j = 0; j < i && !seen; ++j)
-            seen = QStringView(parts.at(j)).trimmed() == text;
-        if (seen)
-            continue;
+    joined.reserve(length);
+    for (const QStringView text : std::as_const(kept)) {
         if (!joined.isEmpty())
             joined += u" / ";
         joined += text;

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
+#include <QVarLengthArray>
 
 #include <memory>
 #include <optional>
@@ -22,8 +23,6 @@ public:
 
     virtual ~Importer() = default;
     virtual ImportResult parse(const QByteArray &bytes) const = 0;
-    // The file's bytes parsed; an error when it cannot be read.
-    ImportResult read(const QString &path) const;
 
     // The reader of a format, with its defaults (a CSV file's columns from
     // its header or content).
@@ -34,6 +33,8 @@ public:
     // "csv", "qif", "ofx", "xhb" (as on the command line).
     static std::optional<Format> formatNamed(QStringView name);
 
-    // The non-empty parts, trimmed, joined as one line of details.
-    static QString joinDetails(const QStringList &parts);
+    // The non-empty parts, trimmed, joined as one line of details, each
+    // once.
+    using DetailParts = QVarLengthArray<QStringView, 4>;
+    static QString joinDetails(const DetailParts &parts);
 };

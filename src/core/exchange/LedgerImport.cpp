@@ -9,6 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 
 LedgerImport::LedgerImport(KController &ledger, ImportResult imported, const ImportMapping &mapping)
     : m_ledger(ledger)
+    , m_mapping(mapping)
     , m_imported(std::move(imported))
     , m_mapped(mapping.map(m_imported))
 {
@@ -159,30 +160,15 @@ bool LedgerImport::book(QString *error, const KController::ImportProgress &progr
             *error = tr("No entry is ticked for booking.");
         return false;
     }
-    return m_ledger.bookImport(records, error, progress);
+    if (!m_ledger.bookImport(records, error, progress))
+        return false;
+    m_mapping.rememberChoices(m_mapping.unmatched(m_imported));
+    return true;
 }
 
-std::optional<ImportMapping> LedgerImport::mappingWith(const KController &ledger, const QStringList &choices,
-                                                       QString *error)
+ImportMapping LedgerImport::mappingFor(const KController &ledger)
 {
-    const QStringList categories = ledger.categoryList();
-    ImportMapping mapping(categories, ledger.paywayList());
-    for (const QString &choice : choices) {
-        const qsizetype equals = choice.lastIndexOf(u'=');
-        const QString source = choice.left(equals).trimmed();
-        const QString ours = choice.mid(equals + 1).trimmed();
-        qsizetype index = -1;
-        for (qsizetype i = 0; index < 0 && i < categories.size(); ++i) {
-            if (ImportMapping::nameKey(categories.at(i)) == ImportMapping::nameKey(ours))
-                index = i;
-        }
-        if (equals <= 0 || index < 0) {
-            if (error)
-                *error = equals <= 0 ? tr("'%1' is not of the form SOURCE=CATEGORY.").arg(choice)
-                                     : tr("There is no category '%1'.").arg(ours);
-            return std::nullopt;
-        }
-        mapping.setCategoryFor(source, int(index));
-    }
+    ImportMapping mapping(ledger.categoryList(), ledger.paywayList());
+    mapping.recallChoices();
     return mapping;
 }

@@ -51,19 +51,18 @@ public:
     QJsonObject toJson(const Report &report, bool withEntries) const;
 
     // Adds the new category first when the mapping asks for one (which
-    // renumbers income), then books the ticked rows as one change.
+    // renumbers income), then books the ticked rows as one change, and
+    // remembers where the unmatched names of the file went.
     // False, with the reason, when nothing was booked.
     bool book(QString *error = nullptr, const KController::ImportProgress &progress = {});
 
-    // The mapping of a file's categories onto the ledger's lists with
-    // "SOURCE=OURS" choices (ours by name, as the mapping compares names).
-    // Nothing, with the reason, when a choice is malformed or names no
-    // category of ours.
-    static std::optional<ImportMapping> mappingWith(const KController &ledger,
-                                                    const QStringList &choices, QString *error);
+    // The mapping onto the ledger's lists, with the choices of earlier
+    // imports.
+    static ImportMapping mappingFor(const KController &ledger);
 
 private:
     KController &m_ledger;
+    ImportMapping m_mapping;
     ImportResult m_imported;
     ImportMapping::Result m_mapped;
     QList<bool> m_ticked;

@@ -268,39 +268,61 @@ std::shared_ptr<DataList> KController::readDataFromPath(const QString &path)
 
 bool KController::writeMonth(MonthDataList *list, QString *reason)
 {
-    if (list->isReadOnly()) {
-        *reason = tr("The file could not be read, so it is left as it is. Changes to this month "
-                     "are not saved.");
-        return false;
-    }
-    const QString path = filePathForYear(list->year(), list->month());
-    // Whatever others put into the file since it was read or written goes
-    // into the month first, rather than being written over.
-    if (const auto change = m_sharedFolder->changeOf(path)) {
-        QList<Notice> notices;
-        if (takeOutsideMonth(list, *change, &notices))
-            expireChanges();
-        tell(notices);
+    *reason = writeMonths({list}).constFirst();
+    return reason->isEmpty();
+}
+
+QStringList KController::writeMonths(const QList<MonthDataList *> &lists)
+{
+    QStringList reasons(lists.size());
+    QList<DurableFile::File> files;
+    QList<qsizetype> written;
+    QList<MonthDataList *> unrecorded;
+    for (qsizetype i = 0; i < lists.size(); ++i) {
+        MonthDataList *list = lists.at(i);
         if (list->isReadOnly()) {
-            *reason = tr("The file was changed outside Penwick and cannot be read, so it is left "
-                         "as it is.");
-            return false;
+            reasons[i] = tr("The file could not be read, so it is left as it is. Changes to this month "
+                            "are not saved.");
+            continue;
         }
+        const QString path = filePathForYear(list->year(), list->month());
+        // Whatever others put into the file since it was read or written goes
+        // into the month first, rather than being written over.
+        if (const auto change = m_sharedFolder->changeOf(path)) {
+            QList<Notice> notices;
+            if (takeOutsideMonth(list, *change, &notices))
+                expireChanges();
+            tell(notices);
+            if (list->isReadOnly()) {
+                reasons[i] = tr("The file was changed outside Penwick and cannot be read, so it is "
+                                "left as it is.");
+                continue;
+            }
+        }
+        const QByteArray content = MonthFile::encode(*list);
+        // The journal's last record of a month must never be older than its file,
+        // or a replay would turn the file back: a change that reached the month
+        // without a record of its own (a memo handed over on saving) is recorded
+        // first. A month not edited is as its last record or its file has it.
+        const int key = cacheKey(*list);
+        if (list->isEdited()
+            && content != (m_current.contains(key) ? m_current.value(key) : contentAsLoaded(*list)))
+            unrecorded.append(list);
+        files.append({path, content});
+        written.append(i);
     }
-    const QByteArray content = MonthFile::encode(*list);
-    // The journal's last record of a month must never be older than its file,
-    // or a replay would turn the file back: a change that reached the month
-    // without a record of its own (a memo handed over on saving) is recorded
-    // first. A month not edited is as its last record or its file has it.
-    const int key = cacheKey(*list);
-    if (list->isEdited()
-        && content != (m_current.contains(key) ? m_current.value(key) : contentAsLoaded(*list)))
-        recordMonths({list});
-    if (!DurableFile::write(path, content, reason))
-        return false;
-    m_sharedFolder->know(path, content);
-    list->setIsEdited(false);
-    return true;
+    if (!unrecorded.isEmpty())
+        recordMonths(unrecorded);
+    const QStringList failures = DurableFile::writeEach(files);
+    for (qsizetype f = 0; f < files.size(); ++f) {
+        const qsizetype i = written.at(f);
+        reasons[i] = failures.at(f);
+        if (!reasons.at(i).isEmpty())
+            continue;
+        m_sharedFolder->know(files.at(f).path, files.at(f).content);
+        lists.at(i)->setIsEdited(false);
+    }
+    return reasons;
 }
 
 QString KController::writesHeldReason() const
@@ -395,11 +417,20 @@ bool KController::saveAllEditedData()
     // A write reports nothing to the cache, but copy it anyway: a window
     // reacting to a failure may ask for another month.
     const auto lists = m_listStock;
+    QList<MonthDataList *> edited;
     for (const std::shared_ptr<DataList> &list : lists) {
-        if (!list->isEdited())
-            continue;
-        if (auto *month = dynamic_cast<MonthDataList *>(list.get()))
-            writeDataListToFile(month);
+        if (auto *month = dynamic_cast<MonthDataList *>(list.get()); month && month->isEdited())
+            edited.append(month);
+    }
+    // Stays edited while writes are held; saved once the folder is through.
+    if (m_writesHeld == WritesHeld::No && !edited.isEmpty()) {
+        const QStringList reasons = writeMonths(edited);
+        for (qsizetype i = 0; i < edited.size(); ++i) {
+            MonthDataList *month = edited.at(i);
+            setMonthWritten(month, reasons.at(i));
+            if (!reasons.at(i).isEmpty())
+                emit monthFileNotWritten(filePathForYear(month->year(), month->month()), reasons.at(i));
+        }
     }
     const bool filesWritten = writeJournaledFiles();
     if (hasUnsavedMonths())

@@ -347,6 +347,9 @@ private:
     void dropJournal();
     // Writes without reporting; the caller decides what a failure means.
     bool writeMonth(MonthDataList *list, QString *reason);
+    // The same for several months, with one flush of the disk for all: for
+    // each the reason it was not written, empty where it was.
+    QStringList writeMonths(const QList<MonthDataList *> &lists);
     void setMonthWritten(const MonthDataList *list, const QString &failure);
 
     // Changes of the data folder by others (see watchSharedFolder()).

@@ -286,3 +286,26 @@ void Settings::setCsvImportMapping(const QStringList &header, const QVariantMap 
 {
     m_settings->setValue(csvMappingKey(header), mapping);
 }
+
+ImportChoices Settings::importChoices() const
+{
+    ImportChoices choices;
+    for (const auto &[key, names] : {std::pair{SettingsKeys::ImportCategoryChoices, &choices.categories},
+                                     std::pair{SettingsKeys::ImportPaywayChoices, &choices.payways}}) {
+        const QVariantMap map = m_settings->value(key).toMap();
+        for (auto choice = map.cbegin(); choice != map.cend(); ++choice)
+            names->insert(choice.key(), choice.value().toString());
+    }
+    return choices;
+}
+
+void Settings::setImportChoices(const ImportChoices &choices)
+{
+    for (const auto &[key, names] : {std::pair{SettingsKeys::ImportCategoryChoices, &choices.categories},
+                                     std::pair{SettingsKeys::ImportPaywayChoices, &choices.payways}}) {
+        QVariantMap map;
+        for (auto choice = names->cbegin(); choice != names->cend(); ++choice)
+            map.insert(choice.key(), choice.value());
+        m_settings->setValue(key, map);
+    }
+}

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QLatin1StringView>
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QVariantList>
@@ -12,6 +13,13 @@
 #include <optional>
 
 class QSettings;
+
+// Source names (as import mappings compare them) to names on our lists.
+struct ImportChoices
+{
+    QMap<QString, QString> categories;
+    QMap<QString, QString> payways;
+};
 
 // Typed access to the per-user settings (organisation and application
 // "Penwick"). Each accessor reads or writes one key of SettingsKeys.
@@ -104,6 +112,10 @@ public:
     // time; empty when never.
     QVariantMap csvImportMapping(const QStringList &header) const;
     void setCsvImportMapping(const QStringList &header, const QVariantMap &mapping);
+    // Where imported categories and payment modes that match none of ours
+    // by name went last time: their names, as compared, to ours.
+    ImportChoices importChoices() const;
+    void setImportChoices(const ImportChoices &choices);
 
 private:
     std::unique_ptr<QSettings> m_settings;

@@ -69,5 +69,8 @@ inline QString splitViewIsVertical(QStringView name)
 
 // The CSV import mappings, one key per header line (its hash) in this group.
 inline constexpr QLatin1StringView CsvImportMappings{"CsvImportMappings"};
+// Where unmatched categories and payment modes of imports went, by name.
+inline constexpr QLatin1StringView ImportCategoryChoices{"ImportChoices/Categories"};
+inline constexpr QLatin1StringView ImportPaywayChoices{"ImportChoices/Payways"};
 
 } // namespace SettingsKeys

@@ -1,14 +1,19 @@
 #include "storage/DurableFile.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QMap>
+#include <QTemporaryFile>
 
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
+#include <memory>
+#include <thread>
 #include <unistd.h>
 
 namespace DurableFile {
@@ -16,6 +21,9 @@ namespace DurableFile {
 namespace {
 
 std::optional<Fault> g_fault;
+
+// How many files of a batch are synced at once.
+constexpr qsizetype kSyncThreads = 8;
 
 QString tr(const char *text)
 {
@@ -67,27 +75,83 @@ QString reasonOf(const QFileDevice &file)
 
 bool write(const QString &path, const QByteArray &content, QString *error)
 {
-    QSaveFile file(path);
-    if (injected(Step::Open, path) || !file.open(QIODevice::WriteOnly))
-        return fail(error, path, reasonOf(file));
-    if (!writeAll(file, path, content)) {
-        const QString reason = reasonOf(file);
-        file.cancelWriting();
-        return fail(error, path, reason);
+    const QString reason = writeEach({{path, content}}).constFirst();
+    if (error && !reason.isEmpty())
+        *error = reason;
+    return reason.isEmpty();
+}
+
+QStringList writeEach(const QList<File> &files)
+{
+    QStringList reasons(files.size());
+    const auto failed = [&reasons, &files](qsizetype i, const QString &reason) {
+        fail(&reasons[i], files.at(i).path, reason);
+    };
+    std::vector<std::unique_ptr<QTemporaryFile>> temporaries(files.size());
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        const QFileInfo target(files.at(i).path);
+        // Hidden, and removed again unless renamed: a write cut short leaves
+        // nothing that looks like a file of ours.
+        auto temporary = std::make_unique<QTemporaryFile>(
+            target.dir().filePath(QStringLiteral(".%1.XXXXXX").arg(target.fileName())));
+        if (injected(Step::Open, target.filePath()) || !temporary->open()) {
+            failed(i, reasonOf(*temporary));
+            continue;
+        }
+        // A file keeps who may read it; a new one is its owner's.
+        if (target.exists())
+            temporary->setPermissions(target.permissions());
+        if (!writeAll(*temporary, target.filePath(), files.at(i).content)) {
+            failed(i, reasonOf(*temporary));
+            continue;
+        }
+        temporaries[i] = std::move(temporary);
     }
-    if (!syncDescriptor(file.handle(), path)) {
-        const QString reason = systemError(errno);
-        file.cancelWriting();
-        return fail(error, path, reason);
+
+    // A flush of the disk waits for the device; many waited for side by side
+    // take little longer than one.
+    std::vector<int> syncErrors(files.size(), 0);
+    std::atomic<qsizetype> next = 0;
+    const auto syncNext = [&] {
+        for (qsizetype i = next++; i < files.size(); i = next++) {
+            if (temporaries[i] && !syncDescriptor(temporaries[i]->handle(), files.at(i).path))
+                syncErrors[i] = errno;
+        }
+    };
+    std::vector<std::thread> syncers;
+    for (qsizetype n = std::min<qsizetype>(files.size(), kSyncThreads) - 1; n > 0; --n)
+        syncers.emplace_back(syncNext);
+    syncNext();
+    for (std::thread &syncer : syncers)
+        syncer.join();
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        if (syncErrors[i] != 0)
+            failed(i, systemError(syncErrors[i]));
     }
-    if (injected(Step::Rename, path)) {
-        const QString reason = systemError(errno);
-        file.cancelWriting();
-        return fail(error, path, reason);
+
+    QMap<QString, QList<qsizetype>> renamedIn;
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        if (!temporaries[i] || !reasons.at(i).isEmpty())
+            continue;
+        const QString &path = files.at(i).path;
+        if (injected(Step::Rename, path)
+            || std::rename(QFile::encodeName(temporaries[i]->fileName()).constData(),
+                           QFile::encodeName(path).constData())
+                != 0) {
+            failed(i, systemError(errno));
+            continue;
+        }
+        temporaries[i]->setAutoRemove(false);
+        renamedIn[QFileInfo(path).absolutePath()].append(i);
     }
-    if (!file.commit())
-        return fail(error, path, file.errorString());
-    return syncFolder(QFileInfo(path).absolutePath(), error);
+    for (auto folder = renamedIn.cbegin(); folder != renamedIn.cend(); ++folder) {
+        QString reason;
+        if (syncFolder(folder.key(), &reason))
+            continue;
+        for (const qsizetype i : folder.value())
+            reasons[i] = reason;
+    }
+    return reasons;
 }
 
 bool writeUnsynced(const QString &path, const QByteArray &content, QString *error)

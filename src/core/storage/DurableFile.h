@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -14,6 +16,18 @@
 namespace DurableFile {
 
 bool write(const QString &path, const QByteArray &content, QString *error = nullptr);
+
+// Several files, each as write() puts it, with the disk flushed for all of
+// them at once: every new content into a temporary file beside its file,
+// all of those synced together, each renamed over its file, and each folder
+// synced once. For each file the reason it was not written, empty where it
+// was.
+struct File
+{
+    QString path;
+    QByteArray content;
+};
+QStringList writeEach(const QList<File> &files);
 
 // For a batch of files that only count once all of them are on disk (the
 // renumbering's side files): written in place, every byte checked, and not

@@ -7,7 +7,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -29,6 +28,12 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 using Role = CsvMapping::Role;
+
+// The columns of the table of names without a match.
+enum NameColumn { NameList, NameInFile, NameBookedAs, NameColumns };
+// A name's box: where its entries go; the first entry leaves it with the
+// others.
+constexpr int kWithTheOthers = -1;
 
 // The roles a column can take, as the column boxes offer them.
 const QList<Role> kRoles{Role::Ignore, Role::Date,     Role::Amount, Role::Debit,
@@ -75,13 +80,10 @@ QString dateOrderName(DateOrder order)
 ImportDialog::ImportDialog(KController *ledger, const QString &path, QWidget *parent)
     : QDialog(parent)
     , m_ledger(ledger)
-    , m_path(path)
+    , m_file(path)
+    , m_format(m_file.format())
 {
     setWindowTitle(tr("Import %1").arg(QFileInfo(path).fileName()));
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly))
-        m_bytes = file.readAll();
-    m_format = Importer::detect(path, m_bytes);
 
     auto *layout = new QVBoxLayout(this);
     auto *form = new QFormLayout;
@@ -107,6 +109,20 @@ ImportDialog::ImportDialog(KController *ledger, const QString &path, QWidget *pa
     auto *unmatchedLabel = new QLabel(tr("Categories &without a match:"), this);
     unmatchedLabel->setBuddy(m_unmatchedBox);
     form->addRow(unmatchedLabel, unmatched);
+
+    m_names = new QTableWidget(0, NameColumns, this);
+    m_names->setObjectName(u"unmatchedNames"_s);
+    m_names->setHorizontalHeaderLabels({tr("List"), tr("In the file"), tr("Booked as")});
+    m_names->verticalHeader()->hide();
+    m_names->setWordWrap(false);
+    m_names->setSelectionMode(QAbstractItemView::NoSelection);
+    m_names->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // The names as long as they are; the boxes take the rest.
+    m_names->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_names->horizontalHeader()->setSectionResizeMode(NameBookedAs, QHeaderView::Stretch);
+    m_namesLabel = new QLabel(tr("Names without a &match:"), this);
+    m_namesLabel->setBuddy(m_names);
+    form->addRow(m_namesLabel, m_names);
     layout->addLayout(form);
 
     buildCsvControls();
@@ -249,16 +265,10 @@ void ImportDialog::readFile()
 {
     const bool csv = m_format == Importer::Format::Csv;
     m_csvControls->setVisible(csv);
-    ImportResult imported;
-    if (m_bytes.isEmpty()) {
-        imported.error = tr("%1 is empty or cannot be read.").arg(QFileInfo(m_path).fileName());
-    } else if (csv) {
-        m_reading = CsvImporter(m_csvMapping).readCsv(m_bytes);
-        imported = m_reading.result;
+    m_reading = m_file.readAs(m_format, m_csvMapping);
+    if (csv)
         showCsvMapping();
-    } else {
-        imported = Importer::forFormat(m_format)->parse(m_bytes);
-    }
+    ImportResult imported = m_reading.result;
     m_problems->clear();
     for (const RowProblem &problem : std::as_const(imported.problems))
         m_problems->addItem(tr("Line %1: %2").arg(problem.line).arg(problem.reason));
@@ -267,7 +277,50 @@ void ImportDialog::readFile()
     m_model->setImport(nullptr, {});
     m_import = std::make_unique<LedgerImport>(*m_ledger, std::move(imported),
                                               ImportMapping(m_ledger->categoryList(), m_ledger->paywayList()));
+    showUnmatched();
     mapRows();
+}
+
+void ImportDialog::showUnmatched()
+{
+    const ImportMapping remembered = LedgerImport::mappingFor(*m_ledger);
+    const ImportMapping::Unmatched names = remembered.unmatched(m_import->imported());
+    const QStringList categories = m_ledger->categoryList();
+    const QStringList payways = m_ledger->paywayList();
+    m_names->setRowCount(0);
+    const auto addRow = [this](bool category, const QString &name, const QStringList &ours,
+                               std::optional<int> chosen) {
+        const int row = m_names->rowCount();
+        m_names->insertRow(row);
+        auto *list = new QTableWidgetItem(category ? tr("Category") : tr("Payway"));
+        list->setData(Qt::UserRole, category);
+        m_names->setItem(row, NameList, list);
+        auto *source = new QTableWidgetItem(name);
+        source->setToolTip(name);
+        m_names->setItem(row, NameInFile, source);
+        auto *box = new QComboBox(m_names);
+        box->addItem(QString(), kWithTheOthers);
+        for (qsizetype i = 0; i < ours.size(); ++i)
+            box->addItem(ours.at(i), int(i));
+        box->setCurrentIndex(std::max(0, box->findData(chosen.value_or(kWithTheOthers))));
+        box->setAccessibleName(tr("%1 booked as").arg(name));
+        connect(box, &QComboBox::activated, this, &ImportDialog::mapRows);
+        m_names->setCellWidget(row, NameBookedAs, box);
+    };
+    // Income takes what the file marks as income; the rest may not go there.
+    for (const QString &name : names.categories)
+        addRow(true, name, categories.mid(0, categories.size() - 1), remembered.categoryChosenFor(name));
+    for (const QString &name : names.payways)
+        addRow(false, name, payways, remembered.paywayChosenFor(name));
+    const bool any = m_names->rowCount() > 0;
+    m_names->setVisible(any);
+    m_namesLabel->setVisible(any);
+    if (!any)
+        return;
+    // A few rows at a time; a file of many names scrolls.
+    const int rows = std::min(m_names->rowCount(), 5);
+    m_names->setFixedHeight(m_names->horizontalHeader()->sizeHint().height() + rows * m_names->rowHeight(0)
+                            + 2 * m_names->frameWidth());
 }
 
 void ImportDialog::showCsvMapping()
@@ -312,13 +365,27 @@ void ImportDialog::mapRows()
 {
     if (!m_import)
         return;
-    ImportMapping mapping(m_ledger->categoryList(), m_ledger->paywayList());
+    ImportMapping mapping = LedgerImport::mappingFor(*m_ledger);
     const int unmatched = m_unmatchedBox->currentData().toInt();
     const QString newName = m_newCategoryEdit->text().trimmed();
     if (unmatched >= 0)
         mapping.setUnmatchedCategory(unmatched);
     else if (!newName.isEmpty())
         mapping.setNewCategory(newName);
+    const QStringList payways = m_ledger->paywayList();
+    for (int row = 0; row < m_names->rowCount(); ++row) {
+        auto *box = qobject_cast<QComboBox *>(m_names->cellWidget(row, NameBookedAs));
+        const bool category = m_names->item(row, NameList)->data(Qt::UserRole).toBool();
+        const QString name = m_names->item(row, NameInFile)->text();
+        const int chosen = box->currentData().toInt();
+        if (category)
+            mapping.setCategoryFor(name, chosen);
+        else
+            mapping.setPaywayFor(name, chosen);
+        const QString others = category ? (unmatched >= 0 ? m_unmatchedBox->currentText() : newName)
+                                         : payways.value(0);
+        box->setItemText(0, tr("Like the others (%1)").arg(others));
+    }
     // Ticks survive a change of mapping; the rows are the same.
     QList<bool> ticks;
     for (qsizetype i = 0; i < m_import->mapped().entries.size(); ++i)

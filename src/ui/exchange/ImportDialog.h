@@ -1,6 +1,6 @@
 #pragma once
 
-#include "exchange/CsvImporter.h"
+#include "exchange/FileToImport.h"
 #include "exchange/LedgerImport.h"
 
 #include <QDialog>
@@ -24,8 +24,10 @@ class QWidget;
 // the rows that could not be read with their lines and reasons, and the
 // choices that change how the file is read: its format, and for CSV the
 // encoding, the order of the date's numbers and what each column holds
-// (remembered for the next file with the same header line). Import books
-// the ticked rows as one change and shows what went where.
+// (remembered for the next file with the same header line); and where each
+// category and payment mode of the file that matches none of ours goes
+// (remembered by its name). Import books the ticked rows as one change and
+// shows what went where.
 class ImportDialog : public QDialog
 {
     Q_OBJECT
@@ -46,12 +48,13 @@ private:
     void readFile();
     void mapRows();
     void showCsvMapping();
+    // A row for each name of the file without a match, with where it goes.
+    void showUnmatched();
     void updateSummary();
     CsvMapping chosenCsvMapping() const;
 
     KController *m_ledger;
-    QString m_path;
-    QByteArray m_bytes;
+    FileToImport m_file;
     Importer::Format m_format;
     std::optional<CsvMapping> m_csvMapping;
     CsvImporter::Reading m_reading;
@@ -66,6 +69,8 @@ private:
     QTableWidget *m_columns;
     QComboBox *m_unmatchedBox;
     QLineEdit *m_newCategoryEdit;
+    QLabel *m_namesLabel;
+    QTableWidget *m_names;
     QTableView *m_table;
     ImportPreviewModel *m_model;
     QLabel *m_problemsLabel;
