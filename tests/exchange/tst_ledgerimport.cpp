@@ -1,4 +1,5 @@
 #include "LedgerGenerator.h"
+#include "ProbeRun.h"
 #include "TestDataFolder.h"
 
 #include "exchange/CsvExport.h"
@@ -11,13 +12,11 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <chrono>
 #include <random>
-#include <thread>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -209,17 +208,10 @@ void TestLedgerImport::killedImportLeavesMonthsWholly()
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(importFile(round));
         file.close();
-        QProcess app;
-        app.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        app.start(QStringLiteral(IMPORT_PROBE_PATH), {folder, path});
-        QVERIFY2(app.waitForReadyRead(10000), "the probe did not get ready");
-        QCOMPARE(app.readLine().trimmed(), "ready");
-        app.write("go\n");
-        QVERIFY(app.waitForBytesWritten(1000));
-        std::this_thread::sleep_for(std::chrono::microseconds(delayUs(random)));
-        app.kill();
-        QVERIFY(app.waitForFinished(5000));
-        const bool returned = app.readAllStandardOutput().contains("booked");
+        const auto output = killProbeAfter(QStringLiteral(IMPORT_PROBE_PATH), {folder, path},
+                                           std::chrono::microseconds(delayUs(random)));
+        QVERIFY2(output, "the probe did not run");
+        const bool returned = output->contains("booked");
 
         const QList<qsizetype> counts = countsOnDisk();
         if (counts == expectedCounts(imports + 1)) {

@@ -1,3 +1,4 @@
+#include "ProbeRun.h"
 #include "SwapConversion.h"
 #include "TestDataFolder.h"
 #include "TestHelpers.h"
@@ -7,13 +8,11 @@
 #include "recurring/ScheduleBook.h"
 #include "recurring/ScheduleFile.h"
 
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <chrono>
 #include <random>
-#include <thread>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -273,7 +272,9 @@ void TestSchedules::renumberingCarriesSchedulesAndBudgetsAlong()
     QVERIFY(book.add(s));
     const QByteArray before = readBytes(home.filePath(ScheduleFile::FileName));
     BudgetPlan plan;
-    plan.categories.insert(0, CategoryBudget{15000});
+    CategoryBudget budget;
+    budget.amount = 15000;
+    plan.categories.insert(0, budget);
     QVERIFY(ledger.budgets()->setPlan(plan));
     const auto budgeted = [&ledger] { return ledger.budgets()->plan().categories.keys(); };
 
@@ -351,16 +352,9 @@ void TestSchedules::killedPostingNeverBooksTwice()
         }
         writeBytes(home.filePath(ScheduleFile::FileName), ScheduleFile::encode(schedules));
 
-        QProcess app;
-        app.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        app.start(QStringLiteral(SCHEDULE_PROBE_PATH), {folder, u"2002-12-31"_s});
-        QVERIFY2(app.waitForReadyRead(10000), "the probe did not get ready");
-        QCOMPARE(app.readLine().trimmed(), "ready");
-        app.write("go\n");
-        QVERIFY(app.waitForBytesWritten(1000));
-        std::this_thread::sleep_for(std::chrono::microseconds(delayUs(random)));
-        app.kill();
-        QVERIFY(app.waitForFinished(5000));
+        QVERIFY2(killProbeAfter(QStringLiteral(SCHEDULE_PROBE_PATH), {folder, u"2002-12-31"_s},
+                                std::chrono::microseconds(delayUs(random))),
+                 "the probe did not run");
 
         // The restart: whatever the journal holds is brought back, then
         // what is still due is posted.
