@@ -7,7 +7,7 @@
 #include "exchange/LedgerImport.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
-#include "recurring/ScheduleFile.h"
+#include "recurring/ScheduleBook.h"
 #include "recurring/ScheduleReport.h"
 #include "script/BudgetCommand.h"
 #include "script/ScriptCommands.h"
@@ -200,15 +200,12 @@ QString ScriptApplication::Schedules()
     KController *open = ledger();
     if (!open)
         return {};
-    // Every change of a schedule is written at once: the file is what the
-    // program holds.
-    QString error;
-    const auto schedules = ScheduleFile::read(open->dataFolderPath(), &error);
-    if (!schedules) {
-        sendErrorReply(ScriptNames::UnreadableError, error);
+    const ScheduleBook *book = open->schedules();
+    if (!book->problem().isEmpty()) {
+        sendErrorReply(ScriptNames::UnreadableError, book->problem());
         return {};
     }
     const QJsonArray report =
-        ScheduleReport::json(*schedules, open->categoryList(), open->paywayList());
+        ScheduleReport::json(book->schedules(), open->categoryList(), open->paywayList());
     return QString::fromUtf8(QJsonDocument(report).toJson(QJsonDocument::Compact));
 }

@@ -30,7 +30,7 @@ int main(int argc, char *argv[])
     if (!ledger.finishInterruptedConversion(&problem) || !ledger.replayChangeJournal(&problem))
         std::fprintf(stderr, "schedule_probe: %s\n", qPrintable(problem));
     ledger.readListPreference();
-    ScheduleBook book(&ledger);
+    ScheduleBook &book = *ledger.schedules();
     book.load();
     std::printf("ready\n");
     std::fflush(stdout);

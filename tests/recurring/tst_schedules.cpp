@@ -199,7 +199,7 @@ void TestSchedules::impossibleRulesAreRefused()
     TestDataFolder home;
     home.freshDataFolder();
     KController ledger;
-    ScheduleBook book(&ledger);
+    ScheduleBook &book = *ledger.schedules();
     book.load();
     QString error;
     QCOMPARE(book.add(schedule, &error), !refused);
@@ -213,7 +213,7 @@ void TestSchedules::postingBooksEachOccurrenceOnce()
     const QString folder = home.freshDataFolder();
     KController ledger;
     ledger.readListPreference();
-    ScheduleBook book(&ledger);
+    ScheduleBook &book = *ledger.schedules();
     book.load();
     QVERIFY(book.add(rule(Schedule::Every::Months, 1, 31, date("2024-01-01"))));
     Schedule asked = rule(Schedule::Every::Weeks, 1, 1, date("2024-02-01"));
@@ -264,7 +264,7 @@ void TestSchedules::renumberingCarriesSchedulesAndBudgetsAlong()
     QList<KController::Change> recorded;
     connect(&ledger, &KController::changeRecorded, this,
             [&recorded](const KController::Change &change) { recorded.append(change); });
-    ScheduleBook book(&ledger);
+    ScheduleBook &book = *ledger.schedules();
     book.load();
     Schedule s = rule(Schedule::Every::Months, 1, 1, date("2030-01-01"));
     s.category = 0;
@@ -309,7 +309,7 @@ void TestSchedules::anUnreadableFileIsLeftAlone()
     writeBytes(home.filePath(ScheduleFile::FileName), garbage);
     KController ledger;
     ledger.readListPreference();
-    ScheduleBook book(&ledger);
+    ScheduleBook &book = *ledger.schedules();
     QSignalSpy told(&book, &ScheduleBook::unreadable);
     book.load();
     book.load();
@@ -364,7 +364,7 @@ void TestSchedules::killedPostingNeverBooksTwice()
             KController ledger;
             ledger.replayChangeJournal();
             ledger.readListPreference();
-            ScheduleBook book(&ledger);
+            ScheduleBook &book = *ledger.schedules();
             book.load();
             const int done = book.schedules().constFirst().done;
             QVERIFY2(done == 0 || done == 12 * kYears, qPrintable(QString::number(done)));

@@ -2,6 +2,7 @@
 
 #include "budget/BudgetBook.h"
 #include "budget/BudgetFile.h"
+#include "recurring/ScheduleBook.h"
 #include "ledger/ConversionJournal.h"
 #include "ledger/DataFolder.h"
 #include "ledger/MonthMerge.h"
@@ -87,6 +88,7 @@ KController::KController(QObject *parent)
     : QObject(parent)
     , m_sharedFolder(new SharedFolder(this))
     , m_budgets(new BudgetBook(this))
+    , m_schedules(new ScheduleBook(this))
 {
     // Budgets follow their categories through a renumbering, and its undo.
     registerFolderFile(BudgetFile::FileName, &BudgetFile::renumbered);

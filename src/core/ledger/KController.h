@@ -17,6 +17,7 @@
 #include <optional>
 
 class BudgetBook;
+class ScheduleBook;
 class ChangeJournal;
 class MonthDataList;
 
@@ -232,6 +233,9 @@ public:
     // The budgets of the data folder, loaded with it and read again when the
     // lists or the folder change.
     BudgetBook *budgets();
+    // The schedules of the data folder; empty until the application reads
+    // them, once the journal is replayed.
+    ScheduleBook *schedules() const { return m_schedules; }
     // Files of the data folder that hold category or payway numbers --------
     //
     // Besides the months, the data folder may hold files of our own whose
@@ -409,11 +413,13 @@ private:
     int m_changeDepth = 0;
     bool m_recording = true;
 
+    // Before the books, which register their files when made.
+    FolderFiles m_folderFiles;
     SharedFolder *m_sharedFolder;
     BudgetBook *m_budgets;
+    ScheduleBook *m_schedules;
     bool m_watchShared = false;
 
-    FolderFiles m_folderFiles;
     // Folder files journaled and not yet written, by name.
     QMap<QString, QByteArray> m_filesPending;
 };

@@ -22,8 +22,8 @@ void setError(QString *error, const QString &text)
 constexpr qint64 kPastMidnightMs = 1000;
 } // namespace
 
-ScheduleBook::ScheduleBook(KController *ledger, QObject *parent)
-    : QObject(parent)
+ScheduleBook::ScheduleBook(KController *ledger)
+    : QObject(ledger)
     , m_ledger(ledger)
 {
     m_ledger->registerFolderFile(ScheduleFile::FileName, &ScheduleFile::renumber);

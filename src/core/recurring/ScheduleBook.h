@@ -34,9 +34,10 @@ public:
         PaymentDataPtr entry;
     };
 
-    // Registers the schedules file with the ledger, so that renumbering the
-    // lists renumbers the schedules too; reads nothing yet.
-    explicit ScheduleBook(KController *ledger, QObject *parent = nullptr);
+    // Made by the ledger, its parent. Registers the schedules file with it,
+    // so that renumbering the lists renumbers the schedules too; reads
+    // nothing yet.
+    explicit ScheduleBook(KController *ledger);
 
     // Reads the schedules of the ledger's data folder (again).
     void load();

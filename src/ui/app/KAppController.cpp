@@ -46,19 +46,19 @@ using namespace Qt::Literals::StringLiterals;
 KAppController::KAppController(QObject *parent)
     : QObject(parent)
     , m_ledger(std::make_unique<KController>())
-    , m_schedules(new ScheduleBook(m_ledger.get(), this))
     , m_alerts(new LedgerAlerts(m_ledger.get(), this))
     , m_history(new UndoHistory(m_ledger.get(), this))
 {
     createActions();
     connect(m_history, &UndoHistory::stepFailed, m_alerts, &LedgerAlerts::report);
-    connect(m_schedules, &ScheduleBook::unreadable, this, [this](const QString &, const QString &reason) {
+    ScheduleBook *schedules = m_ledger->schedules();
+    connect(schedules, &ScheduleBook::unreadable, this, [this](const QString &, const QString &reason) {
         m_alerts->report(tr("The schedules cannot be read."), reason);
     });
-    connect(m_schedules, &ScheduleBook::postingFailed, this, [this](const QString &reason) {
+    connect(schedules, &ScheduleBook::postingFailed, this, [this](const QString &reason) {
         m_alerts->report(tr("The scheduled entries due could not be booked."), reason);
     });
-    connect(m_schedules, &ScheduleBook::offered, this, &KAppController::offerDueOccurrences);
+    connect(schedules, &ScheduleBook::offered, this, &KAppController::offerDueOccurrences);
 }
 
 KAppController::~KAppController()
@@ -315,9 +315,9 @@ void KAppController::startUp()
     // Once the journal is replayed: what fell due while Penwick was not
     // running is booked now, and again at every midnight; what is to be
     // asked about waits for the windows.
-    m_schedules->load();
+    m_ledger->schedules()->load();
     if (m_inBackground) {
-        m_schedules->postDaily();
+        m_ledger->schedules()->postDaily();
         return;
     }
     openStartWindows();
@@ -329,7 +329,7 @@ void KAppController::startUp()
     for (const QString &path : waiting)
         openFile(path);
     m_alerts->offerRescuedMonths();
-    m_schedules->postDaily();
+    m_ledger->schedules()->postDaily();
 }
 
 void KAppController::startInBackground()
@@ -578,7 +578,7 @@ void KAppController::activate()
     }
     if (std::exchange(m_inBackground, false)) {
         openStartWindows();
-        m_schedules->postDaily();
+        m_ledger->schedules()->postDaily();
     }
     keepAWindowOpen();
 }
@@ -689,7 +689,7 @@ void KAppController::showScheduleWindow()
     if (!m_running)
         return;
     if (!myScheduleWinController) {
-        myScheduleWinController = new ScheduleWinController(m_schedules, m_ledger.get());
+        myScheduleWinController = new ScheduleWinController(m_ledger->schedules(), m_ledger.get());
         installMenuBar(myScheduleWinController);
     }
     bringToFront(myScheduleWinController);
@@ -713,7 +713,7 @@ void KAppController::offerDueOccurrences(const QList<ScheduleBook::Occurrence> &
     connect(m_dueDialog, &DueDialog::answered, this,
             [this](const QList<ScheduleBook::Occurrence> &answers) {
                 QString error;
-                if (m_schedules->settle(answers, &error))
+                if (m_ledger->schedules()->settle(answers, &error))
                     m_dueDialog->accept();
                 else
                     m_dueDialog->refuse(error);

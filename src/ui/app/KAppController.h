@@ -20,7 +20,6 @@ class LedgerAlerts;
 class UndoHistory;
 class ListWinController;
 class PrefWinController;
-class ScheduleBook;
 class ScheduleWinController;
 class QAction;
 class QMenuBar;
@@ -109,7 +108,6 @@ public:
     void showImport(const QString &path, QWidget *window);
 
     // Recurring entries ---------------------------------------------------
-    ScheduleBook *scheduleBook() const { return m_schedules; }
     void showScheduleWindow();
     // The schedules window with a new schedule made from the entry.
     void makeRecurring(const PaymentDataPtr &record);
@@ -148,9 +146,6 @@ private:
     void offerImport(QWidget *window, QMenuBar *bar);
 
     std::unique_ptr<KController> m_ledger;
-    // Made with the ledger, so that a renumbering finished at start-up
-    // carries the schedules too.
-    ScheduleBook *m_schedules;
     QPointer<ScheduleWinController> myScheduleWinController;
     QPointer<DueDialog> m_dueDialog;
     LedgerAlerts *m_alerts;
