@@ -5,6 +5,7 @@
 #include "budget/BudgetAmount.h"
 #include "entry/EntryCheck.h"
 #include "model/EntryLimits.h"
+#include "model/MonthKey.h"
 #include "model/NumberValue.h"
 #include "script/ScriptNames.h"
 
@@ -139,6 +140,25 @@ void printNames(const QStringList &list, bool json)
 
 const QCommandLineOption jsonOption(u"json"_s, AppCommands::tr("Print JSON instead of lines."));
 
+// A report the program answers as JSON text.
+std::optional<QJsonDocument> jsonReport(const QString &command, const QString &method,
+                                        const QVariantList &arguments = {})
+{
+    const auto reply = callApplication(command, method, arguments);
+    if (!reply || reply->isEmpty())
+        return std::nullopt;
+    return QJsonDocument::fromJson(reply->constFirst().toString().toUtf8());
+}
+
+// With --json a report is printed as the program gave it, and that is all.
+bool printedAsJson(const QCommandLineParser &parser, const QJsonDocument &report)
+{
+    if (!parser.isSet(jsonOption))
+        return false;
+    CommandLine::printOut(report.toJson(QJsonDocument::Indented));
+    return true;
+}
+
 // The object path of a month, asked of the program so that it exists there.
 std::optional<QString> monthPath(const QString &command, const QString &text)
 {
@@ -150,7 +170,7 @@ std::optional<QString> monthPath(const QString &command, const QString &text)
         return std::nullopt;
     }
     const auto reply = callApplication(command, u"DataListWithID"_s,
-                                       {month->year * 100 + month->month});
+                                       {MonthKey::of(month->year, month->month)});
     if (!reply || reply->isEmpty())
         return std::nullopt;
     return reply->constFirst().value<QDBusObjectPath>().path();
@@ -539,15 +559,12 @@ int AppCommands::importFile(const QStringList &arguments)
         options.insert(u"format"_s, parser.value(format));
     if (parser.isSet(category))
         options.insert(u"categories"_s, parser.values(category));
-    const auto reply = callApplication(command, u"ImportFile"_s, {path, options});
-    if (!reply || reply->isEmpty())
+    const auto reply = jsonReport(command, u"ImportFile"_s, {path, options});
+    if (!reply)
         return CommandLine::Failure;
-    const QByteArray json = reply->constFirst().toString().toUtf8();
-    if (parser.isSet(jsonOption)) {
-        CommandLine::printOut(QJsonDocument::fromJson(json).toJson(QJsonDocument::Indented));
+    if (printedAsJson(parser, *reply))
         return CommandLine::Success;
-    }
-    const QJsonObject report = QJsonDocument::fromJson(json).object();
+    const QJsonObject report = reply->object();
     QByteArray text;
     // What would be booked, then what would not and why; tabs between fields
     // as the list command prints them.
@@ -621,15 +638,12 @@ int AppCommands::budget(const QStringList &arguments)
     static const QRegularExpression pattern(u"^\\d{6}$"_s);
     if (!month.isEmpty() && (!pattern.match(month).hasMatch() || !parseMonth(month)))
         return CommandLine::usageError(command, tr("'%1' is not a month (YYYYMM)").arg(month));
-    const auto reply = callApplication(command, u"BudgetOfMonth"_s, {month});
-    if (!reply || reply->isEmpty())
+    const auto reply = jsonReport(command, u"BudgetOfMonth"_s, {month});
+    if (!reply)
         return CommandLine::Failure;
-    const QJsonObject report =
-        QJsonDocument::fromJson(reply->constFirst().toString().toUtf8()).object();
-    if (parser.isSet(jsonOption)) {
-        CommandLine::printOut(QJsonDocument(report).toJson(QJsonDocument::Indented));
+    if (printedAsJson(parser, *reply))
         return CommandLine::Success;
-    }
+    const QJsonObject report = reply->object();
     if (const QString problem = report.value(u"problem"_s).toString(); !problem.isEmpty())
         CommandLine::printError(tr("%1: the budgets cannot be read: %2").arg(command, problem));
     const auto amount = [](const QJsonObject &line, const QString &key) {
@@ -667,16 +681,13 @@ int AppCommands::schedules(const QStringList &arguments)
         return *status;
     if (!parser.positionalArguments().isEmpty())
         return CommandLine::usageError(command, tr("takes no arguments"));
-    const auto reply = callApplication(command, u"Schedules"_s);
-    if (!reply || reply->isEmpty())
+    const auto reply = jsonReport(command, u"Schedules"_s);
+    if (!reply)
         return CommandLine::Failure;
-    const QJsonArray schedules = QJsonDocument::fromJson(reply->constFirst().toString().toUtf8()).array();
-    if (parser.isSet(jsonOption)) {
-        CommandLine::printOut(QJsonDocument(schedules).toJson(QJsonDocument::Indented));
+    if (printedAsJson(parser, *reply))
         return CommandLine::Success;
-    }
     QByteArray text;
-    for (const QJsonValue &value : schedules) {
+    for (const QJsonValue &value : reply->array()) {
         const QJsonObject s = value.toObject();
         const QString next = s.value(u"next"_s).toString();
         text += QStringList{next.isEmpty() ? u"-"_s : next,
