@@ -67,6 +67,13 @@ ScheduleWinController::ScheduleWinController(ScheduleBook *book, KController *le
     });
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ScheduleWinController::updateState);
+    // Focus entering the table makes a row current without selecting it; the
+    // row the keyboard is on is the one Edit and Remove act on.
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex &current) {
+                if (current.isValid() && !m_table->selectionModel()->isRowSelected(current.row()))
+                    m_table->selectRow(current.row());
+            });
     m_table->resizeColumnsToContents();
     updateState();
     resize(760, 320);
