@@ -43,7 +43,7 @@ void BM_BudgetOfAMonth(benchmark::State &state)
         return;
     }
     const auto listOf = [&months](int year, int month) {
-        return months.value(YearMonthKey::of(year, month));
+        return months.value(MonthKey::of(year, month));
     };
     for (auto _ : state)
         benchmark::DoNotOptimize(book.report(shown, income, listOf).total);

@@ -117,7 +117,7 @@ void TestBudget::figuresOfAMonth()
     QFETCH(QList<Line>, lines);
     QFETCH(std::optional<Line>, total);
 
-    const int month = YearMonthKey::of(2026, 3);
+    const int month = MonthKey::of(2026, 3);
     QMap<int, PaymentArray> records;
     for (const Booking &b : std::as_const(bookings))
         records[b.yearMonth].append(entry(b.yearMonth / 100, b.yearMonth % 100, 1, u"x"_s,
@@ -125,7 +125,7 @@ void TestBudget::figuresOfAMonth()
     QMap<int, BudgetCalculation::Spending> spending;
     for (auto it = records.cbegin(); it != records.cend(); ++it)
         spending.insert(it.key(), BudgetCalculation::spendingOf(it.value(), kIncome));
-    QVERIFY(BudgetCalculation::firstMonthNeeded(plan, month) >= YearMonthKey::added(month, -120));
+    QVERIFY(BudgetCalculation::firstMonthNeeded(plan, month) >= MonthKey::added(month, -120));
 
     const BudgetCalculation::Report report = BudgetCalculation::report(plan, month, spending);
     QCOMPARE(report.categories, lines);

@@ -57,11 +57,11 @@ bool BudgetBook::setPlan(const BudgetPlan &plan, QString *error)
 BudgetCalculation::Report BudgetBook::report(const DataList &month, int incomeCategory,
                                              const MonthLists &listOf) const
 {
-    const int shown = YearMonthKey::of(month.year(), month.month());
+    const int shown = MonthKey::of(month.year(), month.month());
     QMap<int, BudgetCalculation::Spending> spending;
     spending.insert(shown, BudgetCalculation::spendingOf(month.dataListArray(), incomeCategory));
     for (int key = BudgetCalculation::firstMonthNeeded(m_plan, shown); key < shown;
-         key = YearMonthKey::added(key, 1)) {
+         key = MonthKey::added(key, 1)) {
         if (const auto list = listOf(key / 100, key % 100))
             spending.insert(key, BudgetCalculation::spendingOf(list->dataListArray(),
                                                                incomeCategory));

@@ -11,7 +11,7 @@ int rollOverStart(const CategoryBudget &budget, int yearMonth)
 {
     if (!budget.rollOver)
         return yearMonth;
-    const int earliest = YearMonthKey::added(yearMonth, -LookBackMonths);
+    const int earliest = MonthKey::added(yearMonth, -LookBackMonths);
     return std::clamp(budget.rollOverSince, earliest, yearMonth);
 }
 
@@ -30,7 +30,7 @@ Line lineOf(const CategoryBudget &budget, int category, int yearMonth,
 {
     Line line{category};
     for (int month = rollOverStart(budget, yearMonth); month < yearMonth;
-         month = YearMonthKey::added(month, 1))
+         month = MonthKey::added(month, 1))
         line.carried += budget.amountFor(month) - spentIn(spendingByMonth.value(month), category);
     line.budget = budget.amountFor(yearMonth);
     line.spent = spentIn(spendingByMonth.value(yearMonth), category);

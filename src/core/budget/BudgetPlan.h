@@ -1,19 +1,10 @@
 #pragma once
 
+#include "model/MonthKey.h"
+
 #include <QMap>
 
 #include <optional>
-
-// A month as one number, year * 100 + month, the way the ledger keys its
-// months; ordered like the calendar.
-namespace YearMonthKey {
-constexpr int of(int year, int month)
-{
-    return year * 100 + month;
-}
-// The key of the month `months` later (earlier when negative).
-int added(int key, int months);
-} // namespace YearMonthKey
 
 // How much one spending category (or all spending together) may take a month:
 // one amount for every month, replaced in the months that have their own.

@@ -4,6 +4,7 @@
 
 #include "ledger/KController.h"
 #include "model/DataList.h"
+#include "model/MonthKey.h"
 #include "model/MonthDataList.h"
 #include "model/NumberValue.h"
 
@@ -73,11 +74,11 @@ std::optional<PaymentArray> CsvExport::records(KController &ledger, Scope scope,
         ledger.readAllData();
         for (const auto &list : ledger.cachedLists()) {
             if (list->month() != 0)
-                months.append(list->year() * 100 + list->month());
+                months.append(MonthKey::of(list->year(), list->month()));
         }
     } else {
         for (int month = scope.month ? scope.month : 1; month <= (scope.month ? scope.month : 12); ++month)
-            months.append(scope.year * 100 + month);
+            months.append(MonthKey::of(scope.year, month));
     }
     PaymentArray records;
     for (const int id : months) {

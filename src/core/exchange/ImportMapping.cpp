@@ -1,5 +1,6 @@
 #include "ImportMapping.h"
 
+#include "model/MonthKey.h"
 #include "settings/Settings.h"
 
 #include <QMap>
@@ -227,7 +228,7 @@ void ImportMapping::flagDuplicates(QList<MappedEntry> &entries, const MonthRecor
     QMap<int, QMap<Key, int>> months;
     for (MappedEntry &entry : entries) {
         const QDate date = entry.source.date;
-        const int id = date.year() * 100 + date.month();
+        const int id = MonthKey::of(date.year(), date.month());
         auto month = months.find(id);
         if (month == months.end()) {
             month = months.insert(id, {});

@@ -1,6 +1,7 @@
 #include "LedgerImport.h"
 
 #include "model/CategoryPalette.h"
+#include "model/MonthKey.h"
 #include "model/MonthDataList.h"
 
 #include <QJsonArray>
@@ -47,7 +48,7 @@ LedgerImport::Report LedgerImport::report() const
             continue;
         }
         ++report.booked;
-        ++report.months[entry.source.date.year() * 100 + entry.source.date.month()];
+        ++report.months[MonthKey::of(entry.source.date.year(), entry.source.date.month())];
     }
     return report;
 }

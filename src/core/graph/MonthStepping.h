@@ -2,14 +2,9 @@
 
 #include <QDate>
 
-// The month a window shows is kept as one number, year * 100 + month, that
-// a stepper moves by one; these rules keep it a real month.
+// The month a window shows is kept as its MonthKey, that a stepper moves by
+// one; these rules keep it a real month.
 namespace MonthStepping {
-
-inline int valueOf(int year, int month)
-{
-    return year * 100 + month;
-}
 
 // A value stepped past December or before January, made the first or last
 // month of the neighbouring year: 200713 gives 200801, 200800 gives 200712.

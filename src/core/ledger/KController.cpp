@@ -8,6 +8,7 @@
 #include "ledger/MonthMerge.h"
 #include "model/EntryLimits.h"
 #include "model/ModifMonthList.h"
+#include "model/MonthKey.h"
 #include "model/MonthDataList.h"
 #include "model/Notifications.h"
 #include "model/NumberValue.h"
@@ -35,14 +36,9 @@ constexpr int kSaveDelayMs = 1000;
 // saved soon after the disk has room again.
 constexpr int kRetryDelayMs = 30000;
 
-int cacheKey(int year, int month)
-{
-    return year * 100 + month;
-}
-
 int cacheKey(const MonthDataList &list)
 {
-    return cacheKey(list.year(), list.month());
+    return MonthKey::of(list.year(), list.month());
 }
 
 // Hidden: it is the program's own bookkeeping, not a file for the user.
@@ -157,7 +153,7 @@ std::shared_ptr<DataList> KController::listForYear(int year, int month)
     // No file name or calendar outside these years.
     if (!EntryLimits::isYearInRange(year))
         return nullptr;
-    const int key = cacheKey(year, month);
+    const int key = MonthKey::of(year, month);
     if (const auto cached = m_listStock.constFind(key); cached != m_listStock.cend())
         return cached.value();
     std::shared_ptr<DataList> list = readDataListOfYear(year, month);
@@ -229,7 +225,7 @@ std::shared_ptr<MonthDataList> KController::readMonthFile(int year, int month)
         // read-only until the file is mended.
         list = std::make_shared<MonthDataList>(year, month);
         list->setReadOnly(true);
-        m_unreadableMonths.insert(cacheKey(year, month), reason);
+        m_unreadableMonths.insert(MonthKey::of(year, month), reason);
         emit monthFileUnreadable(path, reason);
     }
     return list;
@@ -355,7 +351,7 @@ bool KController::writeDataListToFile(MonthDataList *list, QString *error)
 
 void KController::setMonthWritten(const MonthDataList *list, const QString &failure)
 {
-    const int key = cacheKey(list->year(), list->month());
+    const int key = MonthKey::of(list->year(), list->month());
     const bool changed = failure.isEmpty() ? m_notWritten.remove(key) > 0
                                            : m_notWritten.value(key) != failure;
     if (!failure.isEmpty())
@@ -378,7 +374,7 @@ QList<KController::UnsavedMonth> KController::unsavedMonths() const
 
 std::optional<QString> KController::unreadableReason(int year, int month) const
 {
-    const auto found = m_unreadableMonths.constFind(cacheKey(year, month));
+    const auto found = m_unreadableMonths.constFind(MonthKey::of(year, month));
     if (found == m_unreadableMonths.cend())
         return std::nullopt;
     return found.value();
@@ -523,7 +519,7 @@ bool KController::journal(const QList<MonthChange> &months, const QMap<QString, 
         QString reason;
         if (m_journal->append(records, &reason, fileRecords)) {
             for (const ChangeJournal::Month &record : std::as_const(records))
-                m_journaledMonths.insert(cacheKey(record.year, record.month));
+                m_journaledMonths.insert(MonthKey::of(record.year, record.month));
             m_filesPending.insert(files);
             return true;
         }
@@ -665,7 +661,7 @@ bool KController::replayChangeJournal(QString *error)
         // Adopted: the months' newer records go after these.
         m_journal = std::make_unique<ChangeJournal>(path);
         for (const ChangeJournal::Month &record : std::as_const(contents.months))
-            m_journaledMonths.insert(cacheKey(record.year, record.month));
+            m_journaledMonths.insert(MonthKey::of(record.year, record.month));
     }
     if (contents.torn)
         problems.append(tr("The last change before Penwick stopped was being written at that "
@@ -734,7 +730,7 @@ QMap<int, PaymentArray> KController::assortDataArray(const PaymentArray &records
 {
     QMap<int, PaymentArray> groups;
     for (const PaymentDataPtr &record : records)
-        groups[cacheKey(record->year(), record->month())].append(record);
+        groups[MonthKey::of(record->year(), record->month())].append(record);
     return groups;
 }
 
@@ -1047,7 +1043,7 @@ bool KController::restoreLists(const Change &change, bool before, QString *error
         const auto state = MonthFile::decode(before ? month.before : month.after, error);
         if (!state)
             return false;
-        restored.insert(month.year * 100 + month.month, state->dataListArray());
+        restored.insert(MonthKey::of(month.year, month.month), state->dataListArray());
     }
     for (const FolderFileChange &file : change.files) {
         if (FolderFiles::read(dataFolderPath(), file.name) != (before ? file.after : file.before)) {
@@ -1059,7 +1055,7 @@ bool KController::restoreLists(const Change &change, bool before, QString *error
     if (!rewriteFolder(conversion, change.months, change.files, !before, error))
         return false;
     if (!settleRewrittenMonths([&restored](MonthDataList *month) {
-            const auto found = restored.constFind(month->year() * 100 + month->month());
+            const auto found = restored.constFind(cacheKey(*month));
             if (found != restored.cend())
                 month->setDataListArray(*found);
         }))
@@ -1251,7 +1247,7 @@ void KController::takeOutsideChanges(const QList<SharedFolder::FileChange> &file
             continue;
         }
         const auto yearMonth = DataFolder::yearMonthFromPath(change.path);
-        const int key = yearMonth ? cacheKey(yearMonth->year, yearMonth->month) : 0;
+        const int key = yearMonth ? MonthKey::of(yearMonth->year, yearMonth->month) : 0;
         auto *month = dynamic_cast<MonthDataList *>(m_listStock.value(key).get());
         if (month)
             changed = takeOutsideMonth(month, change, &notices) || changed;
@@ -1500,7 +1496,7 @@ bool KController::bookAsOneChange(const PaymentArray &records,
         return false;
     }
     for (const MonthChange &change : std::as_const(changes))
-        m_current.insert(cacheKey(change.year, change.month), change.after);
+        m_current.insert(MonthKey::of(change.year, change.month), change.after);
     if (m_recording)
         m_change.months += changes;
     // Safe in the journal: a month that cannot be written now stays edited

@@ -3,6 +3,7 @@
 #include "budget/BudgetBook.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
+#include "model/MonthKey.h"
 
 #include <QDate>
 #include <QJsonArray>
@@ -38,7 +39,7 @@ std::optional<int> monthNamed(const QString &text)
 {
     if (text.isEmpty()) {
         const QDate today = QDate::currentDate();
-        return today.year() * 100 + today.month();
+        return MonthKey::of(today.year(), today.month());
     }
     static const QRegularExpression pattern(u"^\\d{6}$"_s);
     const int key = text.toInt();

@@ -3,6 +3,7 @@
 #include "entry/EntryCheck.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
+#include "model/MonthKey.h"
 #include "model/NumberValue.h"
 #include "script/ScriptNames.h"
 #include "search/StringUtility.h"
@@ -136,7 +137,7 @@ std::shared_ptr<DataList> valueWithName(KController &controller, const QString &
 
 int uniqueID(const DataList &list)
 {
-    return list.year() * 100 + list.month();
+    return MonthKey::of(list.year(), list.month());
 }
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include "ledger/KController.h"
 #include "model/DataList.h"
+#include "model/MonthKey.h"
 #include "search/LedgerSearch.h"
 
 #include <algorithm>
@@ -17,7 +18,7 @@ quint16 fieldCheck(const PaymentData &record)
 
 int monthID(const PaymentData &record)
 {
-    return record.year() * 100 + record.month();
+    return MonthKey::of(record.year(), record.month());
 }
 
 } // namespace

@@ -71,7 +71,7 @@ BudgetsDialog::BudgetsDialog(BudgetBook *book, const QStringList &categories, QW
 
 void BudgetsDialog::setMonth(int year, int month)
 {
-    m_month = YearMonthKey::of(year, month);
+    m_month = MonthKey::of(year, month);
     m_table->setHorizontalHeaderLabels(
         {tr("Category"), tr("Every Month"),
          tr("%1 %2").arg(QLocale().standaloneMonthName(month, QLocale::ShortFormat)).arg(year),

@@ -7,6 +7,7 @@
 #include "graph/LedgerChartSource.h"
 #include "graph/LineGraphView.h"
 #include "graph/MonthStepping.h"
+#include "model/MonthKey.h"
 #include "ledger/KController.h"
 #include "model/DataList.h"
 #include "model/EntryLimits.h"
@@ -115,7 +116,7 @@ GraphWinController::GraphWinController(KController *controller, QWidget *parent)
     const Settings settings;
     const QDate start = MonthStepping::bookingMonth(
         QDate::currentDate(), settings.changeMonthLastDate(), settings.monthLastDate());
-    m_stepperValue = MonthStepping::valueOf(start.year(), start.month());
+    m_stepperValue = MonthKey::of(start.year(), start.month());
     showMonthInFields(m_stepperValue);
     readListPreference();
     showChart(settings.chartSelection());
@@ -228,13 +229,13 @@ int GraphWinController::month() const
 
 void GraphWinController::setTargetYear(int year, int month)
 {
-    showMonthInFields(MonthStepping::valueOf(year, month));
+    showMonthInFields(MonthKey::of(year, month));
     changeDataList();
 }
 
 void GraphWinController::changeDataList()
 {
-    const int value = MonthStepping::valueOf(m_yearTF->value(), m_monthTF->value());
+    const int value = MonthKey::of(m_yearTF->value(), m_monthTF->value());
     if (value == m_stepperValue)
         return;
     m_stepperValue = value;

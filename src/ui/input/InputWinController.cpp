@@ -9,6 +9,7 @@
 #include "input/InputSheets.h"
 #include "ledger/KController.h"
 #include "model/EntryLimits.h"
+#include "model/MonthKey.h"
 #include "model/Notifications.h"
 #include "model/NumberValue.h"
 #include "model/PaymentData.h"
@@ -328,7 +329,7 @@ void InputWinController::bookInputData()
     for (const Entry &entry : std::as_const(entries)) {
         const PaymentData &record = *entry.record;
         if (record.category() != -1
-            && refusedMonths.contains(record.year() * 100 + record.month()))
+            && refusedMonths.contains(MonthKey::of(record.year(), record.month())))
             continue;
         m_descriptions.addNewDescription(record);
         clearDataOfView(entry.row);
