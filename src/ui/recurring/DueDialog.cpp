@@ -3,13 +3,16 @@
 #include "entry/EntryCheck.h"
 #include "entry/NumberUtility.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
+#include <QPainter>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -23,6 +26,34 @@ QComboBox *listBox(const QStringList &items, int current, QWidget *parent)
     box->setCurrentIndex(current);
     return box;
 }
+
+// A cell holding only a check box: the keyboard's focus is drawn round the
+// box, not round the empty room beside it.
+class CheckCellDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override
+    {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        const bool focused = cell.state & QStyle::State_HasFocus;
+        cell.state &= ~QStyle::State_HasFocus;
+        QStyle *style = cell.widget ? cell.widget->style() : QApplication::style();
+        style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+        if (!focused)
+            return;
+        QStyleOptionFocusRect frame;
+        frame.QStyleOption::operator=(cell);
+        frame.rect = style->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &cell, cell.widget)
+                         .adjusted(-2, -2, 2, 2);
+        frame.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
+        frame.backgroundColor = cell.palette.color(QPalette::Base);
+        style->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, painter, cell.widget);
+    }
+};
 } // namespace
 
 DueDialog::DueDialog(const QList<ScheduleBook::Occurrence> &occurrences,
@@ -41,6 +72,7 @@ DueDialog::DueDialog(const QList<ScheduleBook::Occurrence> &occurrences,
     m_table->setHorizontalHeaderLabels(
         {tr("Book"), tr("Date"), tr("Details"), tr("Category"), tr("Amount"), tr("Payway")});
     m_table->verticalHeader()->hide();
+    m_table->setItemDelegateForColumn(Book, new CheckCellDelegate(m_table));
     m_table->setTabKeyNavigation(false);
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
     // Typing into a cell would swallow the buttons' Alt keys: F2 or a double click edits.
