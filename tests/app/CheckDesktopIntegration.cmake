@@ -35,13 +35,23 @@ if(NOT status EQUAL 0 OR out MATCHES "error|warning")
   message(FATAL_ERROR "desktop-file-validate:\n${out}")
 endif()
 
-# Offline: the check must not depend on the network.
-execute_process(COMMAND appstreamcli validate --no-net
-                        ${prefix}/share/metainfo/org.penwick.Penwick.metainfo.xml
-                RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE out)
-if(NOT status EQUAL 0)
-  message(FATAL_ERROR "appstreamcli validate:\n${out}")
+# Offline: the check must not depend on the network. The metadata as
+# installed, and as it is with the screenshots' address given.
+set(IN ${SOURCE_DIR}/resources/org.penwick.Penwick.metainfo.xml.in)
+set(OUT ${prefix}/with-screenshots/org.penwick.Penwick.metainfo.xml)
+set(SCREENSHOT_URL https://example.org/penwick/screenshots/)
+include(${SOURCE_DIR}/resources/Metainfo.cmake)
+file(READ ${OUT} metainfo)
+if(NOT metainfo MATCHES "<image xml:lang=\"ja\">https://example.org/penwick/screenshots/list-ja-light.png</image>")
+  message(FATAL_ERROR "the screenshots are not listed:\n${metainfo}")
 endif()
+foreach(metainfo ${prefix}/share/metainfo/org.penwick.Penwick.metainfo.xml ${OUT})
+  execute_process(COMMAND appstreamcli validate --no-net ${metainfo}
+                  RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE out)
+  if(NOT status EQUAL 0)
+    message(FATAL_ERROR "appstreamcli validate ${metainfo}:\n${out}")
+  endif()
+endforeach()
 
 # Building the MIME database parses the type; its glob table then maps
 # month files to it, and the desktop entry offers to open that type.
