@@ -471,18 +471,6 @@
             <translation>&amp;Import…</translation>
         </message>
         <message>
-            <source>Import</source>
-            <translation>Import</translation>
-        </message>
-        <message>
-            <source>Statements and account books (*.csv *.txt *.qif *.ofx *.qfx *.xhb)</source>
-            <translation>Statements and account books (*.csv *.txt *.qif *.ofx *.qfx *.xhb)</translation>
-        </message>
-        <message>
-            <source>All files (*)</source>
-            <translation>All files (*)</translation>
-        </message>
-        <message>
             <source>B&amp;udgets…</source>
             <translation>B&amp;udgets…</translation>
         </message>
@@ -2609,6 +2597,21 @@ Show Details… tells more of each.</translation>
         <message>
             <source>The schedule could not be removed.</source>
             <translation>The schedule could not be removed.</translation>
+        </message>
+    </context>
+    <context>
+        <name>ImportOffer</name>
+        <message>
+            <source>Import</source>
+            <translation>Import</translation>
+        </message>
+        <message>
+            <source>Statements and account books (*.csv *.txt *.qif *.ofx *.qfx *.xhb)</source>
+            <translation>Statements and account books (*.csv *.txt *.qif *.ofx *.qfx *.xhb)</translation>
+        </message>
+        <message>
+            <source>All files (*)</source>
+            <translation>All files (*)</translation>
         </message>
     </context>
 </TS>

@@ -470,18 +470,6 @@
             <translation>取り込み…(&amp;I)</translation>
         </message>
         <message>
-            <source>Import</source>
-            <translation>取り込み</translation>
-        </message>
-        <message>
-            <source>Statements and account books (*.csv *.txt *.qif *.ofx *.qfx *.xhb)</source>
-            <translation>明細と家計簿 (*.csv *.txt *.qif *.ofx *.qfx *.xhb)</translation>
-        </message>
-        <message>
-            <source>All files (*)</source>
-            <translation>すべてのファイル (*)</translation>
-        </message>
-        <message>
             <source>B&amp;udgets…</source>
             <translation>予算(&amp;U)…</translation>
         </message>
@@ -2599,6 +2587,21 @@ Show Details… tells more of each.</source>
         <message>
             <source>The schedule could not be removed.</source>
             <translation>定期項目を削除できませんでした。</translation>
+        </message>
+    </context>
+    <context>
+        <name>ImportOffer</name>
+        <message>
+            <source>Import</source>
+            <translation>取り込み</translation>
+        </message>
+        <message>
+            <source>Statements and account books (*.csv *.txt *.qif *.ofx *.qfx *.xhb)</source>
+            <translation>明細と家計簿 (*.csv *.txt *.qif *.ofx *.qfx *.xhb)</translation>
+        </message>
+        <message>
+            <source>All files (*)</source>
+            <translation>すべてのファイル (*)</translation>
         </message>
     </context>
 </TS>

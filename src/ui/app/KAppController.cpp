@@ -3,7 +3,7 @@
 
 #include "balance/BalanceWinController.h"
 #include "budget/BudgetsDialog.h"
-#include "exchange/ImportDialog.h"
+#include "exchange/ImportOffer.h"
 #include "graph/GraphWinController.h"
 #include "input/InputWinController.h"
 #include "list/ListWinController.h"
@@ -24,8 +24,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QDropEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLayout>
 #include <QLocale>
@@ -33,15 +31,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPushButton>
-#include <QStandardPaths>
-#include <QUrl>
 
 #include <algorithm>
-
-using namespace Qt::Literals::StringLiterals;
-
 
 KAppController::KAppController(QObject *parent)
     : QObject(parent)
@@ -101,8 +93,7 @@ void KAppController::createActions()
 
     m_importAction = new QAction(tr("&Import…"), this);
     m_importAction->setData(ImportTag);
-    connect(m_importAction, &QAction::triggered, this,
-            [this] { showImport({}, QApplication::activeWindow()); });
+    m_imports = new ImportOffer(m_ledger.get(), m_importAction, this);
 
     m_aboutAction = new QAction(tr("&About Penwick"), this);
     m_aboutAction->setMenuRole(QAction::AboutRole);
@@ -196,65 +187,6 @@ QMenuBar *KAppController::installMenuBar(QWidget *window)
                                       bar->sizeHint().width()
                                           + bar->fontMetrics().averageCharWidth()}));
     return bar;
-}
-
-void KAppController::offerImport(QWidget *window, QMenuBar *bar)
-{
-    // After the first group of File (New), else leading it.
-    QMenu *file = bar->actions().constFirst()->menu();
-    const QList<QAction *> items = file->actions();
-    const auto separator = std::find_if(items.cbegin(), items.cend(),
-                                        [](const QAction *item) { return item->isSeparator(); });
-    QAction *before = separator == items.cend() ? items.value(0) : items.value(separator - items.cbegin() + 1);
-    file->insertAction(before, m_importAction);
-    file->insertSeparator(before);
-    window->setAcceptDrops(true);
-    window->installEventFilter(this);
-}
-
-namespace {
-// The one local file a drag carries, if that is what it carries.
-QString droppedFile(const QMimeData *mime)
-{
-    const QList<QUrl> urls = mime ? mime->urls() : QList<QUrl>();
-    return urls.size() == 1 && urls.constFirst().isLocalFile() ? urls.constFirst().toLocalFile() : QString();
-}
-} // namespace
-
-bool KAppController::eventFilter(QObject *watched, QEvent *event)
-{
-    const QEvent::Type type = event->type();
-    if (type != QEvent::DragEnter && type != QEvent::DragMove && type != QEvent::Drop)
-        return QObject::eventFilter(watched, event);
-    auto *drop = static_cast<QDropEvent *>(event);
-    const QString path = droppedFile(drop->mimeData());
-    if (path.isEmpty() || !m_running || !QFileInfo(path).isFile())
-        return false;
-    drop->acceptProposedAction();
-    if (type == QEvent::Drop)
-        showImport(path, qobject_cast<QWidget *>(watched));
-    return true;
-}
-
-void KAppController::showImport(const QString &path, QWidget *window)
-{
-    if (!m_running)
-        return;
-    if (path.isEmpty()) {
-        auto *dialog = new QFileDialog(window, tr("Import"),
-                                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-                                       tr("Statements and account books (*.csv *.txt *.qif *.ofx *.qfx *.xhb)")
-                                           + u";;"_s + tr("All files (*)"));
-        dialog->setFileMode(QFileDialog::ExistingFile);
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        connect(dialog, &QFileDialog::fileSelected, this,
-                [this, window](const QString &chosen) { showImport(chosen, window); });
-        dialog->open();
-        return;
-    }
-    auto *dialog = new ImportDialog(m_ledger.get(), path, window);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->open();
 }
 
 namespace {
@@ -370,7 +302,7 @@ void KAppController::showInputWindow()
     const bool wasVisible = myInputWinController && myInputWinController->isVisible();
     if (!myInputWinController) {
         myInputWinController = new InputWinController(m_ledger.get());
-        offerImport(myInputWinController, installMenuBar(myInputWinController));
+        m_imports->offerIn(myInputWinController, installMenuBar(myInputWinController));
         connect(myInputWinController, &InputWinController::listWindowRequested, this,
                 &KAppController::showListWindow);
         connect(myInputWinController, &InputWinController::quitRequested, this,
@@ -399,7 +331,7 @@ void KAppController::showListWindow()
         return;
     if (!myListWinController) {
         myListWinController = new ListWinController(m_ledger.get());
-        offerImport(myListWinController, installMenuBar(myListWinController));
+        m_imports->offerIn(myListWinController, installMenuBar(myListWinController));
         connect(myListWinController, &ListWinController::inputWindowRequested, this,
                 &KAppController::showInputWindowWithYear);
         connect(myListWinController, &ListWinController::budgetsRequested, this,

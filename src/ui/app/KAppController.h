@@ -14,6 +14,7 @@ class BalanceWinController;
 class ConfirmPassPanelController;
 class DueDialog;
 class GraphWinController;
+class ImportOffer;
 class InputWinController;
 class KController;
 class LedgerAlerts;
@@ -103,9 +104,6 @@ public:
     void showListOfYear(int year, int month);
     void showCategoryList(int category, int year, int month);
     void showPaywayList(int payway, int year, int month);
-    // The preview of importing the file, over the window; with no file, asks
-    // for one first.
-    void showImport(const QString &path, QWidget *window);
 
     // Recurring entries ---------------------------------------------------
     void showScheduleWindow();
@@ -114,10 +112,6 @@ public:
     // The occurrences of ask-first schedules that are due, in one dialog; a
     // dialog open already is left to be answered first.
     void offerDueOccurrences(const QList<ScheduleBook::Occurrence> &occurrences);
-
-protected:
-    // Files dropped on the input and list windows open the import preview.
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 public slots:
     // Quit, as chosen from the menu: asks applicationShouldTerminate first,
@@ -135,15 +129,12 @@ private:
     void createActions();
     QAction *addWindowAction(const QString &text, int tag, const QKeySequence &shortcut,
                              void (KAppController::*show)());
-    // The window's menu bar and its frame, restored from the last run.
     void listWinChangedDate();
     void updateMenuItems();
     void registerMyNotifications();
     void openStartWindows();
     void keepAWindowOpen();
     void showAbout();
-    // File > Import… and dropped files, for the windows that take entries.
-    void offerImport(QWidget *window, QMenuBar *bar);
 
     std::unique_ptr<KController> m_ledger;
     QPointer<ScheduleWinController> myScheduleWinController;
@@ -166,6 +157,7 @@ private:
 
     QAction *m_quitAction = nullptr;
     QAction *m_importAction = nullptr;
+    ImportOffer *m_imports = nullptr;
     QAction *m_aboutAction = nullptr;
     QAction *m_preferencesAction = nullptr;
     QList<QAction *> m_windowActions;
