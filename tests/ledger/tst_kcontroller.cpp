@@ -503,16 +503,14 @@ private slots:
         QTest::addColumn<QStringList>("details");
         // Records exist on 2005/12/20, 12/26, 12/31, 2006/1/1, 1/25, 1/26,
         // 2006/2/26, 2/28 and 2006/3/1, 3/25, 3/26.
-        QTest::newRow("March closes on the 25th")
-            << 2006 << 3 << 25 << QStringList{u"2/26"_s, u"2/28"_s, u"3/1"_s, u"3/25"_s};
-        QTest::newRow("January starts in December")
-            << 2006 << 1 << 25 << QStringList{u"12/26"_s, u"12/31"_s, u"1/1"_s, u"1/25"_s};
-        QTest::newRow("a day past every month's end is the calendar month")
-            << 2006 << 3 << 31 << QStringList{u"3/1"_s, u"3/25"_s, u"3/26"_s};
-        QTest::newRow("day 28 of a 28-day February")
-            << 2006 << 3 << 28 << QStringList{u"3/1"_s, u"3/25"_s, u"3/26"_s};
-        QTest::newRow("day 0 keeps the whole month before")
-            << 2006 << 2 << 0 << QStringList{u"1/1"_s, u"1/25"_s, u"1/26"_s};
+        const auto row = [](const char *name, int month, int closingDay, const QString &details) {
+            QTest::newRow(name) << 2006 << month << closingDay << words(details);
+        };
+        row("March closes on the 25th", 3, 25, u"2/26 2/28 3/1 3/25"_s);
+        row("January starts in December", 1, 25, u"12/26 12/31 1/1 1/25"_s);
+        row("a day past every month's end is the calendar month", 3, 31, u"3/1 3/25 3/26"_s);
+        row("day 28 of a 28-day February", 3, 28, u"3/1 3/25 3/26"_s);
+        row("day 0 keeps the whole month before", 2, 0, u"1/1 1/25 1/26"_s);
     }
 
     void closingDayMonths()

@@ -79,54 +79,29 @@ private slots:
         QTest::addColumn<QStringList>("merged"); // details, sorted
         QTest::addColumn<int>("conflicts");
         QTest::addColumn<QString>("memo");
-
-        const QStringList base{u"e1"_s, u"e2"_s, u"e3"_s, u"e4"_s, u"e5"_s, u"e6"_s};
-        QTest::newRow("no change") << QStringList() << QStringList() << base << 0 << u"memo"_s;
-        QTest::newRow("ours only") << QStringList{u"edit:2:o2"_s, u"delete:4"_s}
-                                   << QStringList()
-                                   << QStringList{u"e1"_s, u"e3"_s, u"e5"_s, u"e6"_s, u"o2"_s} << 0
-                                   << u"memo"_s;
-        QTest::newRow("theirs only") << QStringList() << QStringList{u"add:9:t9"_s, u"memo:new"_s}
-                                     << base + QStringList{u"t9"_s} << 0 << u"new"_s;
-        QTest::newRow("different entries")
-            << QStringList{u"edit:2:o2"_s} << QStringList{u"delete:5"_s, u"add:7:t7"_s}
-            << QStringList{u"e1"_s, u"e3"_s, u"e4"_s, u"e6"_s, u"o2"_s, u"t7"_s} << 0 << u"memo"_s;
-        QTest::newRow("different fields of one entry")
-            << QStringList{u"amount:3:999"_s} << QStringList{u"edit:3:t3"_s}
-            << QStringList{u"e1"_s, u"e2"_s, u"e3"_s, u"e4"_s, u"e5"_s, u"e6"_s, u"t3"_s} << 1
-            << u"memo"_s;
-        QTest::newRow("same change on both") << QStringList{u"edit:3:x3"_s}
-                                             << QStringList{u"edit:3:x3"_s}
-                                             << QStringList{u"e1"_s, u"e2"_s, u"e4"_s, u"e5"_s,
-                                                            u"e6"_s, u"x3"_s}
-                                             << 0 << u"memo"_s;
-        QTest::newRow("both edit one entry")
-            << QStringList{u"edit:3:o3"_s} << QStringList{u"edit:3:t3"_s}
-            << QStringList{u"e1"_s, u"e2"_s, u"e4"_s, u"e5"_s, u"e6"_s, u"o3"_s, u"t3"_s} << 1
-            << u"memo"_s;
-        QTest::newRow("ours edits what theirs deleted")
-            << QStringList{u"edit:4:o4"_s} << QStringList{u"delete:4"_s}
-            << QStringList{u"e1"_s, u"e2"_s, u"e3"_s, u"e5"_s, u"e6"_s, u"o4"_s} << 1 << u"memo"_s;
-        QTest::newRow("theirs edits what ours deleted")
-            << QStringList{u"delete:4"_s} << QStringList{u"day:4:20"_s, u"edit:4:t4"_s}
-            << QStringList{u"e1"_s, u"e2"_s, u"e3"_s, u"e5"_s, u"e6"_s, u"t4"_s} << 1 << u"memo"_s;
-        QTest::newRow("both delete one entry")
-            << QStringList{u"delete:2"_s} << QStringList{u"delete:2"_s}
-            << QStringList{u"e1"_s, u"e3"_s, u"e4"_s, u"e5"_s, u"e6"_s} << 0 << u"memo"_s;
-        QTest::newRow("both book the same") << QStringList{u"add:8:taxi"_s}
-                                            << QStringList{u"add:8:taxi"_s}
-                                            << base + QStringList{u"taxi"_s, u"taxi"_s} << 0
-                                            << u"memo"_s;
+        const auto row = [](const char *name, const QString &ours, const QString &theirs,
+                            const QString &merged, int conflicts, const QString &memo = u"memo"_s) {
+            QTest::newRow(name) << words(ours) << words(theirs) << words(merged) << conflicts << memo;
+        };
+        row("no change", {}, {}, u"e1 e2 e3 e4 e5 e6"_s, 0);
+        row("ours only", u"edit:2:o2 delete:4"_s, {}, u"e1 e3 e5 e6 o2"_s, 0);
+        row("theirs only", {}, u"add:9:t9 memo:new"_s, u"e1 e2 e3 e4 e5 e6 t9"_s, 0, u"new"_s);
+        row("different entries", u"edit:2:o2"_s, u"delete:5 add:7:t7"_s, u"e1 e3 e4 e6 o2 t7"_s, 0);
+        row("different fields of one entry", u"amount:3:999"_s, u"edit:3:t3"_s,
+            u"e1 e2 e3 e4 e5 e6 t3"_s, 1);
+        row("same change on both", u"edit:3:x3"_s, u"edit:3:x3"_s, u"e1 e2 e4 e5 e6 x3"_s, 0);
+        row("both edit one entry", u"edit:3:o3"_s, u"edit:3:t3"_s, u"e1 e2 e4 e5 e6 o3 t3"_s, 1);
+        row("ours edits what theirs deleted", u"edit:4:o4"_s, u"delete:4"_s, u"e1 e2 e3 e5 e6 o4"_s, 1);
+        row("theirs edits what ours deleted", u"delete:4"_s, u"day:4:20 edit:4:t4"_s,
+            u"e1 e2 e3 e5 e6 t4"_s, 1);
+        row("both delete one entry", u"delete:2"_s, u"delete:2"_s, u"e1 e3 e4 e5 e6"_s, 0);
+        row("both book the same", u"add:8:taxi"_s, u"add:8:taxi"_s, u"e1 e2 e3 e4 e5 e6 taxi taxi"_s, 0);
         // Two fields changed is still the same entry; an entry alike in two
         // fields only is another one.
-        QTest::newRow("two fields changed, and an addition")
-            << QStringList{u"edit:2:o2"_s, u"amount:2:1"_s, u"add:9:new"_s}
-            << QStringList{u"edit:5:t5"_s}
-            << QStringList{u"e1"_s, u"e3"_s, u"e4"_s, u"e6"_s, u"new"_s, u"o2"_s, u"t5"_s} << 0
-            << u"memo"_s;
-        QTest::newRow("both change the memo") << QStringList{u"memo:ours"_s}
-                                              << QStringList{u"memo:theirs"_s} << base << 0
-                                              << u"ours\ntheirs"_s;
+        row("two fields changed, and an addition", u"edit:2:o2 amount:2:1 add:9:new"_s, u"edit:5:t5"_s,
+            u"e1 e3 e4 e6 new o2 t5"_s, 0);
+        row("both change the memo", u"memo:ours"_s, u"memo:theirs"_s, u"e1 e2 e3 e4 e5 e6"_s, 0,
+            u"ours\ntheirs"_s);
     }
 
     void mergeOfTwoVersions()
@@ -181,26 +156,17 @@ private slots:
         QTest::addColumn<QStringList>("theirs");
         QTest::addColumn<QStringList>("result"); // details, sorted
         QTest::addColumn<QString>("told");       // in the notice; empty: no notice
-
-        QTest::newRow("unedited month reloads")
-            << 3 << QStringList() << QStringList{u"edit"_s, u"2024"_s, u"3"_s, u"2"_s, u"t2"_s}
-            << QStringList{u"e1"_s, u"e3"_s, u"e4"_s, u"e5"_s, u"e6"_s, u"t2"_s} << QString();
-        QTest::newRow("different entries merge")
-            << 3 << QStringList{u"edit:2:o2"_s}
-            << QStringList{u"delete"_s, u"2024"_s, u"3"_s, u"5"_s,
-                           u"add"_s, u"2024"_s, u"3"_s, u"9"_s, u"t9"_s}
-            << QStringList{u"e1"_s, u"e3"_s, u"e4"_s, u"e6"_s, u"o2"_s, u"t9"_s} << QString();
-        QTest::newRow("same entry keeps both")
-            << 3 << QStringList{u"edit:3:o3"_s}
-            << QStringList{u"edit"_s, u"2024"_s, u"3"_s, u"3"_s, u"t3"_s}
-            << QStringList{u"e1"_s, u"e2"_s, u"e4"_s, u"e5"_s, u"e6"_s, u"o3"_s, u"t3"_s}
-            << u"o3"_s;
-        QTest::newRow("new month file") << 4 << QStringList()
-                                        << QStringList{u"add"_s, u"2024"_s, u"4"_s, u"1"_s, u"n1"_s}
-                                        << QStringList{u"n1"_s} << QString();
-        QTest::newRow("month file removed")
-            << 3 << QStringList() << QStringList{u"remove"_s, u"2024"_s, u"3"_s}
-            << QStringList{u"e1"_s, u"e2"_s, u"e3"_s, u"e4"_s, u"e5"_s, u"e6"_s} << u"removed"_s;
+        const auto row = [](const char *name, int month, const QString &ours, const QString &theirs,
+                            const QString &result, const QString &told = {}) {
+            QTest::newRow(name) << month << words(ours) << words(theirs) << words(result) << told;
+        };
+        row("unedited month reloads", 3, {}, u"edit 2024 3 2 t2"_s, u"e1 e3 e4 e5 e6 t2"_s);
+        row("different entries merge", 3, u"edit:2:o2"_s, u"delete 2024 3 5 add 2024 3 9 t9"_s,
+            u"e1 e3 e4 e6 o2 t9"_s);
+        row("same entry keeps both", 3, u"edit:3:o3"_s, u"edit 2024 3 3 t3"_s,
+            u"e1 e2 e4 e5 e6 o3 t3"_s, u"o3"_s);
+        row("new month file", 4, {}, u"add 2024 4 1 n1"_s, u"n1"_s);
+        row("month file removed", 3, {}, u"remove 2024 3"_s, u"e1 e2 e3 e4 e5 e6"_s, u"removed"_s);
     }
 
     void changesFromAnotherComputerAreTaken()
@@ -230,9 +196,7 @@ private slots:
             QVERIFY(expired.count() > 0);
             // Merged or not, the month is what its file will hold.
             QVERIFY(controller.saveAllEditedData());
-            QCOMPARE(sortedDetails(MonthFile::decode(readBytes(controller.filePathForYear(2024, month)),
-                                                     nullptr)->dataListArray()),
-                     result);
+            QCOMPARE(savedDetails(month), result);
             QTest::qWait(600);
             QCOMPARE(notices.count(), 0);
         } else {
@@ -247,9 +211,7 @@ private slots:
             QVERIFY(notices.at(0).at(1).toString().contains(u"t3"_s));
             QVERIFY(list->isEdited());
             QVERIFY(controller.saveAllEditedData());
-            QCOMPARE(sortedDetails(MonthFile::decode(readBytes(controller.filePathForYear(2024, 3)),
-                                                     nullptr)->dataListArray()),
-                     result);
+            QCOMPARE(savedDetails(3), result);
         }
     }
 
@@ -335,6 +297,13 @@ private slots:
     }
 
 private:
+    QStringList savedDetails(int month) const
+    {
+        QStringList details = detailsOnDisk(m_folder, 2024, month);
+        details.sort();
+        return details;
+    }
+
     // Runs the other computer with the commands; true when it did them.
     bool otherComputer(const QStringList &commands) const
     {

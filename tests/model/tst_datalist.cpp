@@ -108,20 +108,14 @@ private slots:
         QTest::addColumn<QStringList>("order");
         // Records: z 4th cat 1 10; y 4th 30; x 4th 20; b 4th 20; B 4th 20;
         // first 1st cat 9 99; the rest category 0.
-        QTest::newRow("amount, largest first")
-            << u"Amount"_s << true << QStringList{u"first"_s, u"y"_s, u"x"_s, u"b"_s, u"B"_s, u"z"_s};
-        QTest::newRow("amount") << u"Amount"_s << false
-                                << QStringList{u"z"_s, u"B"_s, u"b"_s, u"x"_s, u"y"_s, u"first"_s};
-        QTest::newRow("details") << u"Details"_s << false
-                                 << QStringList{u"B"_s, u"b"_s, u"first"_s, u"x"_s, u"y"_s, u"z"_s};
+        QTest::newRow("amount, largest first") << u"Amount"_s << true << words(u"first y x b B z"_s);
+        QTest::newRow("amount") << u"Amount"_s << false << words(u"z B b x y first"_s);
+        QTest::newRow("details") << u"Details"_s << false << words(u"B b first x y z"_s);
         // Ties go by category, amount, details; details compare literally.
-        QTest::newRow("date") << u"Date"_s << false
-                              << QStringList{u"first"_s, u"B"_s, u"b"_s, u"x"_s, u"y"_s, u"z"_s};
-        QTest::newRow("date, turned with its tie-breaks")
-            << u"Date"_s << true << QStringList{u"z"_s, u"y"_s, u"x"_s, u"b"_s, u"B"_s, u"first"_s};
+        QTest::newRow("date") << u"Date"_s << false << words(u"first B b x y z"_s);
+        QTest::newRow("date, turned with its tie-breaks") << u"Date"_s << true << words(u"z y x b B first"_s);
         // An unknown key ties everywhere, so the tie-breaks alone decide.
-        QTest::newRow("unknown key") << u"Nonsense"_s << false
-                                     << QStringList{u"B"_s, u"b"_s, u"x"_s, u"y"_s, u"z"_s, u"first"_s};
+        QTest::newRow("unknown key") << u"Nonsense"_s << false << words(u"B b x y z first"_s);
     }
 
     void sortOrders()
