@@ -1,5 +1,6 @@
 #include "LedgerGenerator.h"
 #include "TestDataFolder.h"
+#include "TestHelpers.h"
 
 #include "ledger/DataFolder.h"
 #include "ledger/KController.h"
@@ -139,10 +140,7 @@ private slots:
         const QString folder = home.freshDataFolder();
         QVERIFY(LedgerGenerator().writeDataFolder(folder, 2006, 1, 40));
         const QString may = DataFolder::filePathForYear(folder, 2006, 5);
-        QFile file(may);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray before = file.readAll();
-        file.close();
+        const QByteArray before = readBytes(may);
         KController controller;
         if (!journalWorks)
             QVERIFY(QDir(folder).mkdir(QFileInfo(controller.changeJournalPath()).fileName()));
@@ -156,8 +154,7 @@ private slots:
         QVERIFY(app.waitForFinished(10000));
         QCOMPARE(app.exitStatus(), QProcess::NormalExit);
 
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), before);
+        QCOMPARE(readBytes(may), before);
         QCoreApplication::setOrganizationName(u"Penwick"_s);
         QCoreApplication::setApplicationName(u"Penwick"_s);
         const auto rescues = RescueFolder::pending(folder);

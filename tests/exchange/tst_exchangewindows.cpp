@@ -1,4 +1,5 @@
 #include "TestDataFolder.h"
+#include "WindowHelpers.h"
 
 #include "app/KAppController.h"
 #include "exchange/CsvMapping.h"
@@ -96,14 +97,8 @@ private slots:
         app.confirmPassword();
         app.showInputWindow();
         app.showListWindow();
-        QWidget *input = nullptr;
-        ListWinController *list = nullptr;
-        for (QWidget *window : QApplication::topLevelWidgets()) {
-            if (qobject_cast<InputWinController *>(window))
-                input = window;
-            if (auto *listWindow = qobject_cast<ListWinController *>(window))
-                list = listWindow;
-        }
+        QWidget *input = visibleTopLevels<InputWinController>().value(0);
+        ListWinController *list = visibleTopLevels<ListWinController>().value(0);
         QVERIFY(input && list);
         for (const QWidget *window : {input, static_cast<QWidget *>(list)}) {
             const QMenu *file = window->findChild<QMenuBar *>()->actions().constFirst()->menu();

@@ -1,6 +1,7 @@
 #include "LedgerGenerator.h"
 #include "ProbeRun.h"
 #include "TestDataFolder.h"
+#include "TestHelpers.h"
 
 #include "exchange/CsvExport.h"
 #include "exchange/CsvImporter.h"
@@ -91,19 +92,13 @@ private slots:
         TestDataFolder home;
         const QString folder = home.freshDataFolder();
         QVERIFY(LedgerGenerator().writeDataFolder(folder, 2006, 1, kBooked));
-        if (obstacle == u"month"_s) {
-            QFile file(DataFolder::filePathForYear(folder, 2007, 3));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write("not a month");
-        }
+        if (obstacle == u"month"_s)
+            writeBytes(DataFolder::filePathForYear(folder, 2007, 3), "not a month");
         KController ledger;
         LedgerImport import = importOf(ledger, 0);
         QCOMPARE(import.mapped().entries.size(), 12 * kImported);
         if (obstacle == u"list"_s) {
-            QFile file(ListFile::dictionaryPathString(folder));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write("broken");
-            file.close();
+            writeBytes(ListFile::dictionaryPathString(folder), "broken");
             ledger.readListPreference();
         }
         QSignalSpy recorded(&ledger, &KController::changeRecorded);
@@ -145,18 +140,12 @@ private slots:
         ledger.readListPreference();
         const QStringList before = ledger.categoryList();
         const int income = int(before.size()) - 1;
-        const auto incomeInJuly = [&ledger, income] {
-            int count = 0;
-            for (const PaymentDataPtr &record : ledger.monthListForYear(2006, 7)->dataListArray())
-                count += record->category() == income + 1;
-            return count;
+        const auto julyEntriesOf = [&ledger](int category) {
+            const PaymentArray july = ledger.monthListForYear(2006, 7)->dataListArray();
+            return std::count_if(july.cbegin(), july.cend(),
+                                 [category](const PaymentDataPtr &r) { return r->category() == category; });
         };
-        const int incomeBefore = [&] {
-            int count = 0;
-            for (const PaymentDataPtr &record : ledger.monthListForYear(2006, 7)->dataListArray())
-                count += record->category() == income;
-            return count;
-        }();
+        const auto incomeBefore = julyEntriesOf(income);
 
         ImportResult file;
         file.entries = {{QDate(2006, 7, 3), -12.5, u"Ferry"_s, u"Boats"_s, {}, false, 2},
@@ -171,7 +160,7 @@ private slots:
         QCOMPARE(ledger.categoryList().size(), before.size() + 1);
         QCOMPARE(ledger.categoryList().at(income), u"Boats and ferries"_s);
         // Income moved up one, the entries of income with it.
-        QCOMPARE(incomeInJuly(), incomeBefore + 1);
+        QCOMPARE(julyEntriesOf(income + 1), incomeBefore + 1);
         const LedgerImport::Report report = import.report();
         QCOMPARE(report.months, (QMap<int, int>{{200607, 2}}));
         QCOMPARE(report.problems.size(), 1);
@@ -198,10 +187,7 @@ private slots:
         int wholeBeforeReturn = 0;
         for (int round = 0; round < 30; ++round) {
             const QString path = QDir(home.home()).filePath(u"round.csv"_s);
-            QFile file(path);
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(importFile(round));
-            file.close();
+            writeBytes(path, importFile(round));
             const auto output = killProbeAfter(QStringLiteral(IMPORT_PROBE_PATH), {folder, path},
                                                std::chrono::microseconds(delayUs(random)));
             QVERIFY2(output, "the probe did not run");

@@ -1,5 +1,6 @@
 #include "ClientRun.h"
 #include "TestDataFolder.h"
+#include "TestHelpers.h"
 
 #include "ScriptService.h"
 
@@ -40,9 +41,7 @@ private slots:
     {
         m_bus.start();
         m_file = QDir(m_home.home()).filePath(u"statement.qif"_s);
-        QFile file(m_file);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(statement);
+        writeBytes(m_file, statement);
     }
 
     void init()

@@ -1,4 +1,5 @@
 #include "LunchMonth.h"
+#include "TestHelpers.h"
 
 #include "storage/TypedStreamDecoder.h"
 #include "storage/TypedStreamObject.h"
@@ -382,7 +383,6 @@ private slots:
         };
         row("empty", {}, "the data ends early");
         row("streamer version 3", hex("030b73747265616d747970656481e803"), "streamer version 3");
-        row("streamer version 5", hex("050b73747265616d747970656481e803"), "streamer version 5");
         row("signature", hex("040b73747265616d74797065706481e803"), "signature");
         row("reserved tag 0x80", hex("040b73747265616d747970656480"), "reserved tag 0x80");
         row("reserved tag 0x88", hex("040b73747265616d747970656488"), "reserved tag 0x88");
@@ -469,9 +469,7 @@ private slots:
         const QStringList names = dir.entryList(QDir::Files, QDir::Name);
         QVERIFY(names.size() >= 10);
         for (const QString &name : names) {
-            QFile file(dir.filePath(name));
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            QTest::newRow(qPrintable(name)) << file.readAll();
+            QTest::newRow(qPrintable(name)) << readBytes(dir.filePath(name));
         }
     }
 
