@@ -59,26 +59,22 @@ private slots:
         QTest::addColumn<float>("amount");
         QTest::addColumn<int>("categoryCount");
 
-        QTest::newRow("by name, case and width aside")
-            << candidate(u"ｔｒａｖｅｌ"_s, -5, u"CARD"_s) << true << QString() << 2 << 1 << 5.f << 4;
-        QTest::newRow("child name, then parent")
-            << candidate(u"Leisure:Travel"_s, -5) << true << QString() << 2 << 0 << 5.f << 4;
-        QTest::newRow("parent when the child is unknown")
-            << candidate(u"Home:Repairs"_s, -5) << true << QString() << 1 << 0 << 5.f << 4;
-        QTest::newRow("positive signed amount is income")
-            << candidate(u"Food"_s, 7.25) << true << QString() << 3 << 0 << 7.25f << 4;
-        QTest::newRow("unsigned amount keeps its category")
-            << candidate(u"Food"_s, 7.25) << false << QString() << 0 << 0 << 7.25f << 4;
-        QTest::newRow("income category of the source")
-            << candidate(u"Wage"_s, -1, {}, true) << true << QString() << 3 << 0 << 1.f << 4;
-        QTest::newRow("unmatched to the chosen category")
-            << candidate(u"Pets"_s, -2, u"Cheque"_s) << true << QString() << 0 << 0 << 2.f << 4;
-        QTest::newRow("unmatched to a new category before income")
-            << candidate(u"Pets"_s, -2) << true << u"Imported"_s << 3 << 0 << 2.f << 5;
-        QTest::newRow("income moves past the new category")
-            << candidate(u"Pets"_s, 2) << true << u"Imported"_s << 4 << 0 << 2.f << 5;
-        QTest::newRow("a choice for a source name wins")
-            << candidate(u"Groceries"_s, -1) << true << QString() << 2 << 0 << 1.f << 4;
+        const auto row = [](const char *name, const CandidateEntry &entry, bool signedAmounts,
+                            const QString &newCategory, int category, int payway, float amount) {
+            QTest::newRow(name) << entry << signedAmounts << newCategory << category << payway << amount
+                                << (newCategory.isEmpty() ? 4 : 5);
+        };
+        row("by name, case and width aside", candidate(u"ｔｒａｖｅｌ"_s, -5, u"CARD"_s), true, {}, 2, 1, 5);
+        row("child name, then parent", candidate(u"Leisure:Travel"_s, -5), true, {}, 2, 0, 5);
+        row("parent when the child is unknown", candidate(u"Home:Repairs"_s, -5), true, {}, 1, 0, 5);
+        row("positive signed amount is income", candidate(u"Food"_s, 7.25), true, {}, 3, 0, 7.25f);
+        row("unsigned amount keeps its category", candidate(u"Food"_s, 7.25), false, {}, 0, 0, 7.25f);
+        row("income category of the source", candidate(u"Wage"_s, -1, {}, true), true, {}, 3, 0, 1);
+        row("unmatched to the chosen category", candidate(u"Pets"_s, -2, u"Cheque"_s), true, {}, 0, 0, 2);
+        row("unmatched to a new category before income", candidate(u"Pets"_s, -2), true, u"Imported"_s, 3,
+            0, 2);
+        row("income moves past the new category", candidate(u"Pets"_s, 2), true, u"Imported"_s, 4, 0, 2);
+        row("a choice for a source name wins", candidate(u"Groceries"_s, -1), true, {}, 2, 0, 1);
     }
 
     void mapping()

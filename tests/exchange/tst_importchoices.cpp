@@ -1,6 +1,6 @@
 #include "TestDataFolder.h"
+#include "TestHelpers.h"
 
-#include "exchange/HomeBankImporter.h"
 #include "exchange/ImportDialog.h"
 #include "exchange/ImportMapping.h"
 #include "ledger/KController.h"
@@ -115,10 +115,7 @@ private slots:
         KController ledger;
         ledger.readListPreference();
         const QString path = QDir(m_home.home()).filePath(u"pets.qif"_s);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("!Type:Bank\nD01/15/2024\nT-12.00\nPPet shop\nLPets\n^\nD01/16/2024\nT-3.00\nLPets\n^\n");
-        file.close();
+        writeBytes(path, "!Type:Bank\nD01/15/2024\nT-12.00\nPPet shop\nLPets\n^\nD01/16/2024\nT-3.00\nLPets\n^\n");
         const QStringList ours = ledger.categoryList();
 
         {
@@ -141,20 +138,6 @@ private slots:
         auto *box = qobject_cast<QComboBox *>(
             again.findChild<QTableWidget *>(u"unmatchedNames"_s)->cellWidget(0, 2));
         QCOMPARE(box->currentData().toInt(), 2);
-    }
-
-    void homeBankListsMayFollowOperations()
-    {
-        const ImportResult result = HomeBankImporter().parse(
-            "<homebank v=\"1.4\">\n<ope date=\"738900\" amount=\"-2.5\" payee=\"1\" category=\"2\" memo=\"m\"/>\n"
-            "<pay key=\"1\" name=\"Grocer\"/>\n<cat key=\"2\" parent=\"1\" name=\"Fruit\"/>\n"
-            "<cat key=\"1\" flags=\"2\" name=\"Food\"/>\n</homebank>\n"_ba);
-        QVERIFY2(!result.failed(), qPrintable(result.error));
-        QCOMPARE(result.entries.size(), 1);
-        QCOMPARE(result.entries.constFirst().details, u"Grocer / m"_s);
-        QCOMPARE(result.entries.constFirst().category, u"Food:Fruit"_s);
-        QVERIFY(result.entries.constFirst().incomeCategory);
-        QCOMPARE(result.entries.constFirst().amount, -2.5);
     }
 
 private:
