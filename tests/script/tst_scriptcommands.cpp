@@ -49,12 +49,8 @@ private slots:
         QCOMPARE(QDate(record->year(), record->month(), record->date()), today);
         QVERIFY(QFileInfo::exists(m_controller->filePathForYear(today.year(), today.month())));
 
-        // Month 14 is clamped to December; the day is set after year and month,
-        // so 31 in a 30-day month wraps to 1.
-        const auto december = ScriptCommands::makeNewPaymentData(
-            *m_controller, {{u"year"_s, 2006}, {u"month"_s, 14}, {u"date"_s, 3}, {u"amount"_s, 1.5}});
-        QCOMPARE(december->month(), 12);
-        QVERIFY(QFileInfo::exists(m_controller->filePathForYear(2006, 12)));
+        // The day is set after year and month, so 31 in a 30-day month wraps
+        // to 1. (Months out of bounds are the bus test's.)
         const auto april = ScriptCommands::makeNewPaymentData(
             *m_controller, {{u"date"_s, 31}, {u"month"_s, 4}, {u"year"_s, 2007}});
         QCOMPARE(QDate(april->year(), april->month(), april->date()), QDate(2007, 4, 1));
@@ -66,21 +62,12 @@ private slots:
         QVERIFY(month->isEdited());
     }
 
-    void elementsByIdNameAndIndex()
+    // Lists by ID, name and index are the bus test's; the index ends with
+    // December.
+    void listsByIndexEndWithDecember()
     {
-        const auto byId = ScriptCommands::valueWithID(*m_controller, 200605);
-        QCOMPARE(byId->year(), 2006);
-        QCOMPARE(byId->month(), 5);
-        QCOMPARE(ScriptCommands::uniqueID(*byId), 200605);
-        QCOMPARE(ScriptCommands::valueWithName(*m_controller, u"200605"_s), byId);
-
-        // By index the year is always 2004.
-        const auto first = ScriptCommands::valueAtIndex(*m_controller, 0);
-        QCOMPARE(first->year(), 2004);
-        QCOMPARE(first->month(), 1);
         QCOMPARE(ScriptCommands::valueAtIndex(*m_controller, 11)->month(), 12);
         QVERIFY(!ScriptCommands::valueAtIndex(*m_controller, 12));
-        QVERIFY(!ScriptCommands::valueWithID(*m_controller, 200613));
     }
 
     void dataListsLoadsTheWholeFolder()

@@ -24,7 +24,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <cerrno>
@@ -120,16 +119,11 @@ private slots:
             << QString() << u"amount=12.5"_s;
         const QString invalid = ScriptNames::InvalidArgsError;
         const QList<std::pair<const char *, QVariantMap>> refused{
-            {"year -1", {{u"year"_s, -1}}},
-            {"year 10000", {{u"year"_s, 10000}}},
-            {"year abc", {{u"year"_s, u"abc"_s}}},
-            {"date 12x", {{u"date"_s, u"12x"_s}}},
-            {"month 2.5", {{u"month"_s, 2.5}}},
-            {"category 99", {{u"category"_s, 99}}},
-            {"payway -7", {{u"payway"_s, -7}}},
-            {"amount nan", {{u"amount"_s, qQNaN()}}},
-            {"amount 1e39", {{u"amount"_s, 1e39}}},
-            {"amount 'nan'", {{u"amount"_s, u"nan"_s}}}};
+            {"year -1", {{u"year"_s, -1}}}, {"year 10000", {{u"year"_s, 10000}}},
+            {"year abc", {{u"year"_s, u"abc"_s}}}, {"date 12x", {{u"date"_s, u"12x"_s}}},
+            {"month 2.5", {{u"month"_s, 2.5}}}, {"category 99", {{u"category"_s, 99}}},
+            {"payway -7", {{u"payway"_s, -7}}}, {"amount nan", {{u"amount"_s, qQNaN()}}},
+            {"amount 1e39", {{u"amount"_s, 1e39}}}, {"amount 'nan'", {{u"amount"_s, u"nan"_s}}}};
         for (const auto &[name, fields] : refused)
             QTest::addRow("book, %s", name) << u"MakeNewPaymentData"_s << book(fields) << invalid
                                             << QString();
@@ -192,29 +186,28 @@ private slots:
         QCOMPARE(names.exitCode, 0);
         QCOMPARE(names.out, categories.join(u'\n') + u'\n');
 
-        const ClientRun booked = penwickctl({u"book"_s, u"--amount"_s, u"1250"_s, u"--category"_s,
-                                       categories.at(1), u"--details"_s, u"Dinner out"_s,
-                                       u"--year"_s, u"2006"_s, u"--month"_s, u"5"_s, u"--date"_s, u"20"_s});
+        const ClientRun booked = penwickctl(words(u"book --amount 1250 --year 2006 --month 5 --date 20"_s)
+                                            + QStringList{u"--category"_s, categories.at(1), u"--details"_s,
+                                                          u"Dinner out"_s});
         QVERIFY2(booked.exitCode == 0, qPrintable(booked.err));
         QCOMPARE(booked.out.count(u'\n'), 1);
         QVERIFY(booked.out.contains(u"Dinner out"_s));
         QVERIFY(QFileInfo::exists(m_app->ledger()->filePathForYear(2006, 5)));
-        penwickctl({u"book"_s, u"--amount"_s, u"80"_s, u"--category"_s, u"0"_s, u"--details"_s,
-                    u"Apples"_s, u"--year"_s, u"2006"_s, u"--month"_s, u"5"_s, u"--date"_s, u"3"_s});
+        penwickctl(words(u"book --amount 80 --category 0 --details Apples --year 2006 --month 5 --date 3"_s));
 
         const ClientRun listed = penwickctl({u"list"_s, u"200605"_s});
         QCOMPARE(listed.exitCode, 0);
         QCOMPARE(listed.out.count(u'\n'), 2);
         QVERIFY(listed.out.indexOf(u"Apples"_s) < listed.out.indexOf(u"Dinner out"_s));
 
-        const ClientRun found = penwickctl({u"search"_s, u"200605"_s, u"--days"_s, u"15-25"_s, u"--json"_s});
+        const ClientRun found = penwickctl(words(u"search 200605 --days 15-25 --json"_s));
         QCOMPARE(found.exitCode, 0);
         QVERIFY(found.out.contains(u"\"details\": \"Dinner out\""_s));
         QVERIFY(!found.out.contains(u"Apples"_s));
 
         // A search without keys selects everything again.
-        QCOMPARE(penwickctl({u"search"_s, u"200605"_s}).out.count(u'\n'), 2);
-        const ClientRun sorted = penwickctl({u"sort"_s, u"200605"_s, u"--key"_s, u"Amount"_s, u"--descend"_s});
+        QCOMPARE(penwickctl(words(u"search 200605"_s)).out.count(u'\n'), 2);
+        const ClientRun sorted = penwickctl(words(u"sort 200605 --key Amount --descend"_s));
         QCOMPARE(sorted.exitCode, 0);
         QCOMPARE(sorted.out.count(u'\n'), 2);
         QVERIFY(sorted.out.indexOf(u"Dinner out"_s) < sorted.out.indexOf(u"Apples"_s));
@@ -233,7 +226,7 @@ private slots:
         QVERIFY(!m_app->running());
         const QDBusMessage reply = application().call(u"CategoryNames"_s);
         QCOMPARE(reply.errorName(), QString(ScriptNames::LockedError));
-        const ClientRun run = penwickctl({u"book"_s, u"--amount"_s, u"5"_s, u"--category"_s, u"0"_s});
+        const ClientRun run = penwickctl(words(u"book --amount 5 --category 0"_s));
         QVERIFY(run.exitCode != 0);
         QVERIFY2(run.err.contains(u"locked"_s), qPrintable(run.err));
         QVERIFY(!QFileInfo::exists(m_app->ledger()->filePathForYear(QDate::currentDate().year(),
@@ -265,30 +258,21 @@ private slots:
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QString>("words");
-        const QStringList book{u"book"_s, u"--category"_s, u"0"_s};
-        QTest::newRow("amount nan") << book + QStringList{u"--amount"_s, u"nan"_s} << u"not an amount"_s;
-        QTest::newRow("year -1") << book + QStringList{u"--amount"_s, u"1"_s, u"--year"_s, u"-1"_s}
-                                 << u"year -1"_s;
-        QTest::newRow("month 13") << book + QStringList{u"--amount"_s, u"1"_s, u"--month"_s, u"13"_s}
-                                  << u"month 13"_s;
-        QTest::newRow("date 12x") << book + QStringList{u"--amount"_s, u"1"_s, u"--date"_s, u"12x"_s}
-                                  << u"not a whole number"_s;
-        QTest::newRow("31 February")
-            << book + QStringList{u"--amount"_s, u"1"_s, u"--year"_s, u"2006"_s, u"--month"_s, u"2"_s,
-                                  u"--date"_s, u"31"_s}
-            << u"day 31 is not within 1 to 28"_s;
-        QTest::newRow("days abc") << QStringList{u"search"_s, u"200605"_s, u"--days"_s, u"abc"_s}
-                                  << u"not a list of days"_s;
-        QTest::newRow("category name") << QStringList{u"book"_s, u"--amount"_s, u"5"_s, u"--category"_s,
-                                                      u"Nonsense"_s}
-                                       << u"unknown category 'Nonsense'"_s;
-        QTest::newRow("list 200613") << QStringList{u"list"_s, u"200613"_s}
-                                     << u"'200613' is not a month"_s;
-        QTest::newRow("show everything") << QStringList{u"show"_s, u"everything"_s}
-                                         << u"name one window"_s;
-        QTest::newRow("export 20061") << QStringList{u"export"_s, u"20061"_s}
-                                      << u"'20061' is not a month (YYYYMM)"_s;
-        QTest::newRow("not running") << QStringList{u"categories"_s} << u"Penwick is not running"_s;
+        const auto row = [](const char *name, const QString &arguments, const QString &said) {
+            QTest::newRow(name) << words(arguments) << said;
+        };
+        row("amount nan", u"book --category 0 --amount nan"_s, u"not an amount"_s);
+        row("year -1", u"book --category 0 --amount 1 --year -1"_s, u"year -1"_s);
+        row("month 13", u"book --category 0 --amount 1 --month 13"_s, u"month 13"_s);
+        row("date 12x", u"book --category 0 --amount 1 --date 12x"_s, u"not a whole number"_s);
+        row("31 February", u"book --category 0 --amount 1 --year 2006 --month 2 --date 31"_s,
+            u"day 31 is not within 1 to 28"_s);
+        row("days abc", u"search 200605 --days abc"_s, u"not a list of days"_s);
+        row("category name", u"book --amount 5 --category Nonsense"_s, u"unknown category 'Nonsense'"_s);
+        row("list 200613", u"list 200613"_s, u"'200613' is not a month"_s);
+        row("show everything", u"show everything"_s, u"name one window"_s);
+        row("export 20061", u"export 20061"_s, u"'20061' is not a month (YYYYMM)"_s);
+        row("not running", u"categories"_s, u"Penwick is not running"_s);
     }
 
     void penwickctlRefusesAndWritesNothing()
@@ -311,9 +295,8 @@ private slots:
 
     void bookingOnAFullDiskIsNotBooked()
     {
-        const QStringList book{u"book"_s, u"--amount"_s, u"99999999"_s, u"--category"_s, u"0"_s,
-                               u"--details"_s, u"tab\there\nand a line"_s, u"--year"_s, u"2006"_s,
-                               u"--month"_s, u"5"_s, u"--date"_s, u"2"_s};
+        const QStringList book = words(u"book --amount 99999999 --category 0 --year 2006 --month 5 --date 2"_s)
+                                 + QStringList{u"--details"_s, u"tab\there\nand a line"_s};
         QCOMPARE(penwickctl(book).exitCode, 0);
         const QString may = m_app->ledger()->filePathForYear(2006, 5);
         const QByteArray before = readBytes(may);
@@ -335,7 +318,7 @@ private slots:
         const ClientRun again = penwickctl(book);
         QCOMPARE(again.exitCode, 0);
         QVERIFY2(again.err.contains(u"stored as 100000000"_s), qPrintable(again.err));
-        const ClientRun listed = penwickctl({u"list"_s, u"200605"_s});
+        const ClientRun listed = penwickctl(words(u"list 200605"_s));
         QCOMPARE(listed.out.count(u'\n'), 2);
         QVERIFY2(listed.out.contains(u"\ttab\\there\\nand a line\t"_s), qPrintable(listed.out));
     }

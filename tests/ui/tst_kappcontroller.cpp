@@ -102,12 +102,7 @@ private slots:
         const auto panels = visibleTopLevels<ConfirmPassPanelController>();
         QCOMPARE(panels.size(), 1);
         auto *field = panels.first()->findChild<QLineEdit *>(u"passwordTF"_s);
-        QTest::keyClicks(field, u"secreT"_s);
-        QTest::keyClick(field, Qt::Key_Return);
-        QCoreApplication::processEvents();
-        QVERIFY(!controller.running());
-
-        field->selectAll();
+        // A wrong password is the panel's test.
         QTest::keyClicks(field, u"secret"_s);
         QTest::keyClick(field, Qt::Key_Return);
         QTRY_VERIFY(controller.running());
