@@ -69,6 +69,7 @@ private slots:
         QTest::newRow("full-width digits read as 0") << u"１２+1"_s << 1.0;
         QTest::newRow("trailing garbage ignored") << u"12yen+3"_s << 15.0;
         QTest::newRow("unbalanced bracket zeroes everything") << u"100+(2"_s << 0.0;
+        QTest::newRow("division by zero is infinite") << u"1/0"_s << qInf();
     }
 
     void statements()
@@ -76,15 +77,8 @@ private slots:
         QFETCH(QString, statement);
         QFETCH(double, expected);
         const double value = NumberUtility::numberWithCalcurationStatement(statement);
-        QVERIFY2(std::abs(value - expected) < 1e-9,
+        QVERIFY2(value == expected || std::abs(value - expected) < 1e-9,
                  qPrintable(u"%1 gave %2"_s.arg(statement).arg(value, 0, 'g', 17)));
-    }
-
-    void divisionByZeroIsInfinite()
-    {
-        const double value = NumberUtility::numberWithCalcurationStatement(u"1/0"_s);
-        QVERIFY(std::isinf(value));
-        QVERIFY(value > 0);
     }
 
     void localisedMultiplicationSign()

@@ -1,3 +1,4 @@
+#include "TestHelpers.h"
 #include "TestLedgerController.h"
 
 #include "model/ExtractKeyDict.h"
@@ -12,32 +13,36 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-PaymentDataPtr record(int year, int month, int date, int category, const QString &details,
-                      float amount, int payway)
-{
-    return std::make_shared<PaymentData>(year, month, date, category, details, amount, payway);
-}
-} // namespace
-
 class TestPaymentData : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void newRecordIsDatedTodayAndInitializing()
+    void newRecordIsDatedTodayAndReportsOnlyOnceInitialized()
     {
         TestLedgerController controller;
         auto r = std::make_shared<PaymentData>();
         QCOMPARE(QDate(r->year(), r->month(), r->date()), QDate::currentDate());
         QVERIFY(r->initializing());
-        // A record read from a file reports at once.
-        QVERIFY(!record(2006, 5, 3, 0, u"x"_s, 1, 0)->initializing());
         // Its month is kept within the year.
         r->setMonth(0);
         QCOMPARE(r->month(), 1);
         r->setMonth(13);
         QCOMPARE(r->month(), 12);
+        r->setYear(2006);
+        r->setMonth(5);
+        r->setAmount(5);
+        QVERIFY(controller.editReports.isEmpty());
+
+        r->setInitializing(false);
+        r->setAmount(6);
+        r->setDetails(u"b"_s);
+        QCOMPARE(controller.editReports.size(), 2);
+        QCOMPARE(controller.editReports.at(0), r);
+        // The report reaches the list of the record's own month.
+        QCOMPARE(r->dataList(), controller.listForYear(2006, 5));
+        // A record read from a file reports at once.
+        QVERIFY(!entry(2006, 5, 3, u"x"_s, 1, 0, 0)->initializing());
     }
 
     void dayIsNormalisedThroughTheCalendar_data()
@@ -60,7 +65,7 @@ private slots:
         QFETCH(int, month);
         QFETCH(int, day);
         QFETCH(int, stored);
-        auto r = record(year, month, 1, 0, {}, 0, 0);
+        auto r = entry(year, month, 1, {}, 0, 0, 0);
         r->setDate(day);
         QCOMPARE(r->date(), stored);
         // The year and month never follow the wrap.
@@ -98,7 +103,7 @@ private slots:
         QFETCH(QVariant, value);
         QFETCH(QVariant, expected);
         TestLedgerController controller;
-        auto r = record(2006, 5, 3, 1, u"Lunch"_s, 800, 0);
+        auto r = entry(2006, 5, 3, u"Lunch"_s, 800, 1, 0);
         const QString before = r->description();
         r->setData(value, key);
         if (!expected.isValid()) {
@@ -112,41 +117,10 @@ private slots:
         QCOMPARE(controller.editReports.size(), changed ? 1 : 0);
     }
 
-    void keyedReadingIsExactCase()
-    {
-        auto r = record(2006, 5, 3, 2, u"Lunch"_s, 800.5f, 1);
-        QCOMPARE(r->dataForKey(u"Amount"), QVariant(800.5f));
-        QCOMPARE(r->dataForKey(u"amount"), QVariant(u"Err!!"_s));
-        QCOMPARE(r->dataForKey(u""), QVariant(u"Err!!"_s));
-        // Scripts use the lower-case keys.
-        QCOMPARE(r->propertyForKey(u"details"), QVariant(u"Lunch"_s));
-        QCOMPARE(r->propertyForKey(u"payway"), QVariant(1));
-        QVERIFY(!r->propertyForKey(u"Amount").isValid());
-    }
-
-    void reportsReachTheControllerOnlyAfterInitializing()
-    {
-        TestLedgerController controller;
-        auto r = std::make_shared<PaymentData>();
-        r->setYear(2006);
-        r->setMonth(5);
-        r->setAmount(5);
-        r->setCategory(1);
-        QVERIFY(controller.editReports.isEmpty());
-
-        r->setInitializing(false);
-        r->setAmount(6);
-        r->setDetails(u"b"_s);
-        QCOMPARE(controller.editReports.size(), 2);
-        QCOMPARE(controller.editReports.at(0), r);
-        // The report reaches the list of the record's own month.
-        QCOMPARE(r->dataList(), controller.listForYear(2006, 5));
-    }
-
     void namesAndDescriptions()
     {
         TestLedgerController controller;
-        auto r = record(2006, 5, 3, 0, u"Lunch %1"_s, 800.9f, 1);
+        auto r = entry(2006, 5, 3, u"Lunch %1"_s, 800.9f, 0, 1);
         QCOMPARE(r->categoryAsName(), u"Food"_s);
         QCOMPARE(r->paywayAsName(), u"Card"_s);
         QCOMPARE(r->descriptionForScript(), u"2006/5/3\tFood\tLunch %1\t800\tCard"_s);
@@ -251,12 +225,12 @@ private slots:
     {
         QFETCH(ExtractKeyDict, keys);
         QFETCH(bool, passes);
-        auto r = record(2006, 5, 15, 1, u"Lunch at work"_s, 100, 2);
+        auto r = entry(2006, 5, 15, u"Lunch at work"_s, 100, 1, 2);
         QCOMPARE(r->isRequestedData(keys), passes);
 
         // A record without details never passes a keyword test.
         if (keys.details) {
-            auto blank = record(2006, 5, 15, 1, {}, 100, 2);
+            auto blank = entry(2006, 5, 15, {}, 100, 1, 2);
             QVERIFY(!blank->isRequestedData(keys));
         }
     }
