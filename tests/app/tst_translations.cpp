@@ -68,57 +68,53 @@ class TestTranslations : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void everyTextIsTranslated_data();
-    void everyTextIsTranslated();
+    void initTestCase()
+    {
+        QTemporaryDir scratch;
+        const QString fresh = scratch.filePath(u"fresh.ts"_s);
+        QProcess lupdate;
+        lupdate.start(QStringLiteral(LUPDATE_PATH),
+                      {u"-silent"_s, u"-locations"_s, u"none"_s, QStringLiteral("@" PENWICK_SOURCE_LIST),
+                       u"-ts"_s, fresh});
+        QVERIFY(lupdate.waitForFinished(60000));
+        QVERIFY2(lupdate.exitCode() == 0, lupdate.readAllStandardError().constData());
+        m_sources = readCatalogue(fresh);
+        QVERIFY(m_sources.size() > 10);
+    }
+
+    void everyTextIsTranslated_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::newRow("English") << QStringLiteral(TRANSLATIONS_DIR "/penwick_en.ts");
+        QTest::newRow("Japanese") << QStringLiteral(TRANSLATIONS_DIR "/penwick_ja.ts");
+    }
+
+    void everyTextIsTranslated()
+    {
+        QFETCH(QString, file);
+        const Catalogue catalogue = readCatalogue(file);
+        QStringList faults;
+        for (auto it = m_sources.cbegin(); it != m_sources.cend(); ++it) {
+            const auto &[context, source] = it.key();
+            const QString where = context + u": \""_s + source + u'"';
+            const auto found = catalogue.constFind(it.key());
+            if (found == catalogue.cend()) {
+                faults.append(where + u" is missing"_s);
+            } else if (!found->finished || found->translation.isEmpty()) {
+                faults.append(where + u" has no finished translation"_s);
+            } else if (!placeholders(source).isEmpty()
+                       && placeholders(found->translation) != placeholders(source)) {
+                // A key that is no sentence ("BarGraph Label Format") may gain
+                // placeholders; a sentence must keep its own.
+                faults.append(where + u" and its translation use other placeholders"_s);
+            }
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
 
 private:
     Catalogue m_sources;
 };
-
-void TestTranslations::initTestCase()
-{
-    QTemporaryDir scratch;
-    const QString fresh = scratch.filePath(u"fresh.ts"_s);
-    QProcess lupdate;
-    lupdate.start(QStringLiteral(LUPDATE_PATH),
-                  {u"-silent"_s, u"-locations"_s, u"none"_s, QStringLiteral("@" PENWICK_SOURCE_LIST),
-                   u"-ts"_s, fresh});
-    QVERIFY(lupdate.waitForFinished(60000));
-    QVERIFY2(lupdate.exitCode() == 0, lupdate.readAllStandardError().constData());
-    m_sources = readCatalogue(fresh);
-    QVERIFY(m_sources.size() > 10);
-}
-
-void TestTranslations::everyTextIsTranslated_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::newRow("English") << QStringLiteral(TRANSLATIONS_DIR "/penwick_en.ts");
-    QTest::newRow("Japanese") << QStringLiteral(TRANSLATIONS_DIR "/penwick_ja.ts");
-}
-
-void TestTranslations::everyTextIsTranslated()
-{
-    QFETCH(QString, file);
-    const Catalogue catalogue = readCatalogue(file);
-    QStringList faults;
-    for (auto it = m_sources.cbegin(); it != m_sources.cend(); ++it) {
-        const auto &[context, source] = it.key();
-        const QString where = context + u": \""_s + source + u'"';
-        const auto found = catalogue.constFind(it.key());
-        if (found == catalogue.cend()) {
-            faults.append(where + u" is missing"_s);
-        } else if (!found->finished || found->translation.isEmpty()) {
-            faults.append(where + u" has no finished translation"_s);
-        } else if (!placeholders(source).isEmpty()
-                   && placeholders(found->translation) != placeholders(source)) {
-            // A key that is no sentence ("BarGraph Label Format") may gain
-            // placeholders; a sentence must keep its own.
-            faults.append(where + u" and its translation use other placeholders"_s);
-        }
-    }
-    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-}
 
 QTEST_GUILESS_MAIN(TestTranslations)
 #include "tst_translations.moc"

@@ -69,35 +69,32 @@ private slots:
         QTest::addColumn<QStringList>("bookings");
         QTest::addColumn<QStringList>("common");
         QTest::addColumn<QStringList>("recent");
+        const auto split = [](const QString &text) { return text.split(u' ', Qt::SkipEmptyParts); };
         const QStringList fill{u"fill"_s};
-        const QStringList aToF{u"A"_s, u"B"_s, u"C"_s, u"D"_s, u"E"_s, u"F"_s};
+        const QStringList aToF = split(u"A B C D E F"_s);
 
         QTest::newRow("first booking is common only") << QStringList{u"Lunch"_s}
                                                       << QStringList{u"Lunch:1"_s} << QStringList();
         QTest::newRow("booked again, the last amount; empty never")
             << QStringList{u"Lunch"_s, u""_s, u"Lunch=950"_s} << QStringList{u"Lunch:2:950"_s}
             << QStringList();
-        QTest::newRow("ties go to the latest") << QStringList{u"Bread"_s, u"Milk"_s}
-                                               << QStringList{u"Milk:1"_s, u"Bread:1"_s} << QStringList();
+        QTest::newRow("ties go to the latest") << split(u"Bread Milk"_s) << split(u"Milk:1 Bread:1"_s)
+                                               << QStringList();
         QTest::newRow("by count; case and spaces differ")
             << QStringList{u"Bread"_s, u"Milk"_s, u"Bread"_s, u"bread"_s, u"Bread "_s}
             << QStringList{u"Bread:2"_s, u"Bread :1"_s, u"bread:1"_s, u"Milk:1"_s} << QStringList();
         QTest::newRow("full common list: a rare one is recent")
             << fill + QStringList{u"Taxi"_s} << filledCommon() << QStringList{u"Taxi"_s};
-        QTest::newRow("recent: newest first, five") << fill + aToF << filledCommon()
-                                                    << QStringList{u"F"_s, u"E"_s, u"D"_s, u"C"_s, u"B"_s};
+        QTest::newRow("recent: newest first, five") << fill + aToF << filledCommon() << split(u"F E D C B"_s);
         QTest::newRow("recent booked again comes first")
-            << fill + aToF + QStringList{u"D"_s} << filledCommon()
-            << QStringList{u"D"_s, u"F"_s, u"E"_s, u"C"_s, u"B"_s};
+            << fill + aToF + QStringList{u"D"_s} << filledCommon() << split(u"D F E C B"_s);
         // Count 3 ties with the common ones: promoted, and offered twice for a
         // while, since the recent list keeps it.
-        const QStringList rent{u"Rent"_s, u"Rent"_s, u"Rent"_s};
-        QTest::newRow("promoted, still recent") << fill + rent
-                                                << QStringList{u"Rent:3"_s} + filledCommon(2)
-                                                << QStringList{u"Rent"_s};
+        const QStringList rent = split(u"Rent Rent Rent"_s);
+        const QStringList promoted = QStringList{u"Rent:3"_s} + filledCommon(2);
+        QTest::newRow("promoted, still recent") << fill + rent << promoted << QStringList{u"Rent"_s};
         QTest::newRow("promoted, then pushed out of recent")
-            << fill + rent + aToF.first(5) << QStringList{u"Rent:3"_s} + filledCommon(2)
-            << QStringList{u"E"_s, u"D"_s, u"C"_s, u"B"_s, u"A"_s};
+            << fill + rent + aToF.first(5) << promoted << split(u"E D C B A"_s);
     }
 
     void bookings()

@@ -10,8 +10,8 @@
 
 #include <QApplication>
 #include <QHelpEvent>
-#include <QStyle>
 #include <QSignalSpy>
+#include <QStyle>
 #include <QTest>
 #include <QToolTip>
 
@@ -91,56 +91,6 @@ std::array<double, 3> toLab(const QColor &color)
     return {116.0 * fy - 16.0, 500.0 * (fx - fy), 200.0 * (fy - fz)};
 }
 
-// The CIEDE2000 colour difference of two L*a*b* colours.
-double deltaE2000(const std::array<double, 3> &lab1, const std::array<double, 3> &lab2)
-{
-    const auto [l1, a1, b1] = lab1;
-    const auto [l2, a2, b2] = lab2;
-    const auto pow7 = [](double x) { return std::pow(x, 7.0); };
-    const auto deg = [](double rad) { return rad * 180.0 / M_PI; };
-    const auto rad = [](double deg) { return deg * M_PI / 180.0; };
-    const double meanC = (std::hypot(a1, b1) + std::hypot(a2, b2)) / 2.0;
-    const double g = 0.5 * (1.0 - std::sqrt(pow7(meanC) / (pow7(meanC) + pow7(25.0))));
-    const double ap1 = (1.0 + g) * a1;
-    const double ap2 = (1.0 + g) * a2;
-    const double c1 = std::hypot(ap1, b1);
-    const double c2 = std::hypot(ap2, b2);
-    const auto hue = [&](double b, double ap) {
-        return b == 0 && ap == 0 ? 0.0 : std::fmod(deg(std::atan2(b, ap)) + 360.0, 360.0);
-    };
-    const double h1 = hue(b1, ap1);
-    const double h2 = hue(b2, ap2);
-    double dh = h2 - h1;
-    if (c1 * c2 == 0)
-        dh = 0;
-    else if (dh > 180)
-        dh -= 360;
-    else if (dh < -180)
-        dh += 360;
-    const double dL = l2 - l1;
-    const double dC = c2 - c1;
-    const double dH = 2.0 * std::sqrt(c1 * c2) * std::sin(rad(dh / 2.0));
-    const double meanL = (l1 + l2) / 2.0;
-    const double meanCp = (c1 + c2) / 2.0;
-    double meanH = h1 + h2;
-    if (c1 * c2 != 0) {
-        if (std::abs(h1 - h2) <= 180)
-            meanH /= 2.0;
-        else
-            meanH = meanH < 360 ? (meanH + 360) / 2.0 : (meanH - 360) / 2.0;
-    }
-    const double t = 1 - 0.17 * std::cos(rad(meanH - 30)) + 0.24 * std::cos(rad(2 * meanH))
-        + 0.32 * std::cos(rad(3 * meanH + 6)) - 0.20 * std::cos(rad(4 * meanH - 63));
-    const double rotation = 30.0 * std::exp(-std::pow((meanH - 275.0) / 25.0, 2.0));
-    const double rc = 2.0 * std::sqrt(pow7(meanCp) / (pow7(meanCp) + pow7(25.0)));
-    const double sl = 1 + 0.015 * std::pow(meanL - 50, 2) / std::sqrt(20 + std::pow(meanL - 50, 2));
-    const double sc = 1 + 0.045 * meanCp;
-    const double sh = 1 + 0.015 * meanCp * t;
-    const double rt = -std::sin(rad(2 * rotation)) * rc;
-    return std::sqrt(std::pow(dL / sl, 2) + std::pow(dC / sc, 2) + std::pow(dH / sh, 2)
-                     + rt * (dC / sc) * (dH / sh));
-}
-
 // The highest contrast any pixel of the area has with the ground: that of
 // the text's full strokes, past the smoothing at their edges.
 double inkContrast(const QImage &image, const QRect &area, const QColor &ground)
@@ -205,237 +155,215 @@ class TestGraphViews : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init()
+    {
+        m_home = std::make_unique<TestDataFolder>();
+    }
 
-    void hitsAndToolTips_data();
-    void hitsAndToolTips();
-    void clicksReachTheirSignal_data();
-    void clicksReachTheirSignal();
-    void lineAxisIsRoundedAndRuled_data();
-    void lineAxisIsRoundedAndRuled();
+    void hitsAndToolTips_data()
+    {
+        QTest::addColumn<QString>("chart");
+        QTest::addColumn<int>("hidden");
+        QTest::addColumn<QPoint>("point");
+        QTest::addColumn<int>("category");
+        QTest::addColumn<QString>("toolTip");
 
-    void defaultColoursStayApart();
-    void textReadsOnItsGround_data();
-    void textReadsOnItsGround();
+        const auto row = [](const char *name, const QString &chart, int hidden, QPoint point,
+                            int category, const QString &toolTip = {}) {
+            QTest::newRow(name) << chart << hidden << point << category << toolTip;
+        };
+        // Pie slices run clockwise from twelve: Food the right half, then Rent
+        // the lower left, Fun the upper left. Tips give the share of the pie.
+        const QSize pie(300, 300);
+        row("pie, food", u"pie"_s, -1, onPie(pie, 30, 100), 0, u"Food: 500 (50.0 %)"_s);
+        row("pie, rent", u"pie"_s, -1, onPie(pie, -110, 100), 1, u"Rent: 250 (25.0 %)"_s);
+        row("pie, corner", u"pie"_s, -1, QPoint(5, 5), -1);
+        // An unchecked category leaves no gap: Rent takes Food's place.
+        row("pie, food unchecked", u"pie"_s, 0, onPie(pie, 30, 100), 1, u"Rent: 250 (50.0 %)"_s);
+        row("empty pie", u"empty pie"_s, -1, QPoint(150, 150), -1);
+
+        // Bars: three categories a row, the oldest month on top; month labels
+        // come after all bars. Tips name the month, the share is of that month.
+        row("bars, newest", u"bars"_s, -1, QPoint(200, 200), 2 * 3 + 1, u"Rent, 2008/1: 200 (50.0 %)"_s);
+        row("bars, older", u"bars"_s, -1, QPoint(50, 130), 1 * 3 + 0, u"Food, 2007/12: 200 (100.0 %)"_s);
+        row("bars, month label", u"bars"_s, -1, QPoint(20, 25), 3 * 3);
+
+        // Lines: halfway up Food's rise from February to March; the tip is of
+        // the month under the pointer.
+        row("lines, rise", u"lines"_s, -1, QPoint(113, 183), 0, u"Food, 2008/2: 0 (–)"_s);
+        // Rent has no entries: its line lies on the month axis under Food's.
+        row("lines, axis", u"lines"_s, -1, QPoint(388, 340), 0, u"Food, 2008/10: 0 (–)"_s);
+        row("lines, axis, food unchecked", u"lines"_s, 0, QPoint(388, 340), 1, u"Rent, 2008/10: 0 (–)"_s);
+        row("lines, march label", u"lines"_s, -1, QPoint(131, 355), 3 + 2);
+        // Where lines lie on each other the lower index wins.
+        row("lines, shared", u"flat lines"_s, -1, QPoint(260, 13), 0, u"Food, 2008/7: 1,000 (40.0 %)"_s);
+    }
+
+    void hitsAndToolTips()
+    {
+        QFETCH(QString, chart);
+        QFETCH(int, hidden);
+        QFETCH(QPoint, point);
+        QFETCH(int, category);
+        QFETCH(QString, toolTip);
+
+        const std::unique_ptr<PWKGraphView> view = makeChart(chart, hidden);
+        QCOMPARE(view->categoryForMousePoint(point), category);
+        QCOMPARE(toolTipAt(view.get(), point), toolTip);
+        if (toolTip.isEmpty())
+            QTRY_VERIFY(!QToolTip::isVisible());
+    }
+
+    void clicksReachTheirSignal_data()
+    {
+        QTest::addColumn<QString>("chart");
+        QTest::addColumn<QPoint>("point");
+        QTest::addColumn<bool>("twice");
+        QTest::addColumn<QString>("signal");
+        QTest::addColumn<QVariantList>("arguments");
+
+        const auto row = [](const char *name, const QString &chart, QPoint point, bool twice,
+                            const QString &signal = {}, const QVariantList &arguments = {}) {
+            QTest::newRow(name) << chart << point << twice << signal << arguments;
+        };
+        row("bars, newest", u"bars"_s, QPoint(200, 200), false, u"selected"_s, {1});
+        // Older bars and month labels answer a double click only, with that
+        // month's entries of the category (-1: all).
+        row("bars, older", u"bars"_s, QPoint(50, 130), false);
+        row("bars, older twice", u"bars"_s, QPoint(50, 130), true, u"requested"_s, {0, 2007, 12});
+        row("bars, month label", u"bars"_s, QPoint(20, 25), true, u"requested"_s, {-1, 2007, 11});
+        row("lines, month label", u"lines"_s, QPoint(131, 355), false);
+        row("lines, month label twice", u"lines"_s, QPoint(131, 355), true, u"requested"_s, {-1, 2008, 3});
+    }
+
+    void clicksReachTheirSignal()
+    {
+        QFETCH(QString, chart);
+        QFETCH(QPoint, point);
+        QFETCH(bool, twice);
+        QFETCH(QString, signal);
+        QFETCH(QVariantList, arguments);
+
+        const std::unique_ptr<PWKGraphView> view = makeChart(chart, -1);
+        QSignalSpy selected(view.get(), &PWKGraphView::itemSelected);
+        QSignalSpy requested(view.get(), &PWKGraphView::categoryListRequested);
+        if (twice)
+            QTest::mouseDClick(view.get(), Qt::LeftButton, {}, point);
+        else
+            QTest::mouseClick(view.get(), Qt::LeftButton, {}, point);
+
+        QCOMPARE(requested.count(), signal == u"requested"_s ? 1 : 0);
+        if (signal == u"requested"_s)
+            QCOMPARE(requested.at(0), arguments);
+        // A double click's first press may select too; a single one only selects.
+        if (signal == u"selected"_s)
+            QCOMPARE(selected.value(0), arguments);
+        else if (!twice)
+            QCOMPARE(selected.count(), 0);
+    }
+
+    void lineAxisIsRoundedAndRuled_data()
+    {
+        QTest::addColumn<ChartEntries>("year");
+        QTest::addColumn<qint64>("maximum");
+        QTest::addColumn<QList<qint64>>("labels");
+
+        ChartEntries spent = ChartData::monthsOfYear(2008);
+        spent[2].data = {{0, 12345}, {1, 3000}};
+        spent[4].data = {{1, 6000}};
+        QTest::newRow("rounded up") << spent << qint64(13000)
+                                    << QList<qint64>{1700, 3200, 4900, 6600, 8100, 9800, 11000, 13000};
+        // Of the labels 0, 0, 0 and 1, those on top of each other are left out.
+        QTest::newRow("empty year") << ChartData::monthsOfYear(2009) << qint64(1)
+                                    << QList<qint64>{0, 1};
+    }
+
+    void lineAxisIsRoundedAndRuled()
+    {
+        QFETCH(ChartEntries, year);
+        QFETCH(qint64, maximum);
+        QFETCH(QList<qint64>, labels);
+
+        LineGraphView lines;
+        const QSize size(500, 400);
+        setUp(lines, size, year);
+        const QImage image = render(lines);
+        QCOMPARE(lines.axisMaximum(), maximum);
+        QCOMPARE(lines.axisLabels(), labels);
+
+        // Every label is written beside its own height on the axis, with a rule
+        // across the chart there (right of December's dots) and none between.
+        const double graphHeight = size.height() - 70.0;
+        const auto ruled = [&](int y) {
+            return countPixels(image, QRect(485, y - 1, 1, 3), [](QColor c) { return c != Qt::white; })
+                > 0;
+        };
+        int below = size.height() - 60;
+        for (const qint64 value : labels) {
+            const int y = size.height() - int(graphHeight / double(maximum) * double(value) + 60.0);
+            QVERIFY2(countPixels(image, QRect(0, y - 6, 45, 12), dark) > 5,
+                     qPrintable(QString::number(value)));
+            QVERIFY2(ruled(y), qPrintable(QString::number(value)));
+            if (y != below)
+                QVERIFY2(!ruled((y + below) / 2), qPrintable(QString::number(value)));
+            below = y;
+        }
+    }
+
+    // Colours told apart at a glance: at least 20 apart in L*a*b*.
+    void defaultColoursStayApart()
+    {
+        QCOMPARE_GE(CategoryPalette::size(), 14);
+        for (int i = 0; i < 14; ++i) {
+            for (int j = i + 1; j < 14; ++j) {
+                const auto [l1, a1, b1] = toLab(toQColor(CategoryPalette::colorAt(i)));
+                const auto [l2, a2, b2] = toLab(toQColor(CategoryPalette::colorAt(j)));
+                const double distance = std::hypot(l1 - l2, a1 - a2, b1 - b2);
+                QVERIFY2(distance >= 20.0, qPrintable(u"%1 and %2: %3"_s.arg(i).arg(j).arg(distance)));
+            }
+        }
+    }
+
+    void textReadsOnItsGround_data()
+    {
+        QTest::addColumn<bool>("darkTheme");
+        QTest::addColumn<QString>("chart");
+        QTest::addColumn<QRect>("text");
+
+        for (const bool darkTheme : {false, true}) {
+            const char *theme = darkTheme ? "dark" : "light";
+            QTest::addRow("%s, amounts", theme) << darkTheme << u"lines"_s << QRect(0, 0, 46, 330);
+            QTest::addRow("%s, month on show", theme) << darkTheme << u"lines"_s
+                                                      << QRect(197, 345, 16, 20);
+            QTest::addRow("%s, bar months", theme) << darkTheme << u"bars"_s << QRect(7, 17, 90, 23);
+            QTest::addRow("%s, empty pie", theme) << darkTheme << u"empty pie"_s
+                                                  << QRect(0, 0, 300, 300);
+            QTest::addRow("%s, beside pie", theme) << darkTheme << u"narrow slice"_s
+                                                   << QRect(450, 0, 150, 24);
+        }
+    }
+
+    void textReadsOnItsGround()
+    {
+        QFETCH(bool, darkTheme);
+        QFETCH(QString, chart);
+        QFETCH(QRect, text);
+
+        const QPalette theme = darkTheme ? darkPalette() : QApplication::style()->standardPalette();
+        const std::unique_ptr<PWKGraphView> view = makeChart(chart, -1);
+        view->setPalette(theme);
+        const QImage image = render(*view);
+
+        // The chart's ground is the theme's, and its text reads on it.
+        const QColor ground = theme.color(QPalette::Base);
+        QCOMPARE(image.pixelColor(image.width() - 1, 0), ground);
+        const double contrast = inkContrast(image, text, ground);
+        QVERIFY2(contrast >= 4.5, qPrintable(QString::number(contrast)));
+    }
 
 private:
     std::unique_ptr<TestDataFolder> m_home;
 };
-
-void TestGraphViews::init()
-{
-    m_home = std::make_unique<TestDataFolder>();
-}
-
-void TestGraphViews::hitsAndToolTips_data()
-{
-    QTest::addColumn<QString>("chart");
-    QTest::addColumn<int>("hidden");
-    QTest::addColumn<QPoint>("point");
-    QTest::addColumn<int>("category");
-    QTest::addColumn<QString>("toolTip");
-
-    // Pie slices run clockwise from twelve: Food the right half, then Rent
-    // the lower left, Fun the upper left. Tips give the share of the pie.
-    const QSize pie(300, 300);
-    QTest::newRow("pie, food") << u"pie"_s << -1 << onPie(pie, 30, 100) << 0
-                               << u"Food: 500 (50.0 %)"_s;
-    QTest::newRow("pie, rent") << u"pie"_s << -1 << onPie(pie, -110, 100) << 1
-                               << u"Rent: 250 (25.0 %)"_s;
-    QTest::newRow("pie, corner") << u"pie"_s << -1 << QPoint(5, 5) << -1 << QString();
-    // An unchecked category leaves no gap: Rent takes Food's place.
-    QTest::newRow("pie, food unchecked") << u"pie"_s << 0 << onPie(pie, 30, 100) << 1
-                                         << u"Rent: 250 (50.0 %)"_s;
-    QTest::newRow("empty pie") << u"empty pie"_s << -1 << QPoint(150, 150) << -1 << QString();
-
-    // Bars: three categories a row, the oldest month on top; month labels
-    // come after all bars. Tips name the month, the share is of that month.
-    QTest::newRow("bars, newest") << u"bars"_s << -1 << QPoint(200, 200) << 2 * 3 + 1
-                                  << u"Rent, 2008/1: 200 (50.0 %)"_s;
-    QTest::newRow("bars, older") << u"bars"_s << -1 << QPoint(50, 130) << 1 * 3 + 0
-                                 << u"Food, 2007/12: 200 (100.0 %)"_s;
-    QTest::newRow("bars, month label") << u"bars"_s << -1 << QPoint(20, 25) << 3 * 3 << QString();
-
-    // Lines: halfway up Food's rise from February to March; the tip is of
-    // the month under the pointer.
-    QTest::newRow("lines, rise") << u"lines"_s << -1 << QPoint(113, 183) << 0
-                                 << u"Food, 2008/2: 0 (–)"_s;
-    // Rent has no entries: its line lies on the month axis under Food's.
-    QTest::newRow("lines, axis") << u"lines"_s << -1 << QPoint(388, 340) << 0
-                                 << u"Food, 2008/10: 0 (–)"_s;
-    QTest::newRow("lines, axis, food unchecked") << u"lines"_s << 0 << QPoint(388, 340) << 1
-                                                 << u"Rent, 2008/10: 0 (–)"_s;
-    QTest::newRow("lines, march label") << u"lines"_s << -1 << QPoint(131, 355) << 3 + 2
-                                        << QString();
-    // Where lines lie on each other the lower index wins.
-    QTest::newRow("lines, shared") << u"flat lines"_s << -1 << QPoint(260, 13) << 0
-                                   << u"Food, 2008/7: 1,000 (40.0 %)"_s;
-}
-
-void TestGraphViews::hitsAndToolTips()
-{
-    QFETCH(QString, chart);
-    QFETCH(int, hidden);
-    QFETCH(QPoint, point);
-    QFETCH(int, category);
-    QFETCH(QString, toolTip);
-
-    const std::unique_ptr<PWKGraphView> view = makeChart(chart, hidden);
-    QCOMPARE(view->categoryForMousePoint(point), category);
-    QCOMPARE(toolTipAt(view.get(), point), toolTip);
-    if (toolTip.isEmpty())
-        QTRY_VERIFY(!QToolTip::isVisible());
-}
-
-void TestGraphViews::clicksReachTheirSignal_data()
-{
-    QTest::addColumn<QString>("chart");
-    QTest::addColumn<QPoint>("point");
-    QTest::addColumn<bool>("twice");
-    QTest::addColumn<QString>("signal");
-    QTest::addColumn<QVariantList>("arguments");
-
-    QTest::newRow("bars, newest") << u"bars"_s << QPoint(200, 200) << false << u"selected"_s
-                                  << QVariantList{1};
-    // Older bars and month labels answer a double click only, with that
-    // month's entries of the category (-1: all).
-    QTest::newRow("bars, older") << u"bars"_s << QPoint(50, 130) << false << QString()
-                                 << QVariantList();
-    QTest::newRow("bars, older twice") << u"bars"_s << QPoint(50, 130) << true << u"requested"_s
-                                       << QVariantList{0, 2007, 12};
-    QTest::newRow("bars, month label") << u"bars"_s << QPoint(20, 25) << true << u"requested"_s
-                                       << QVariantList{-1, 2007, 11};
-    QTest::newRow("lines, month label") << u"lines"_s << QPoint(131, 355) << false << QString()
-                                        << QVariantList();
-    QTest::newRow("lines, month label twice") << u"lines"_s << QPoint(131, 355) << true
-                                              << u"requested"_s << QVariantList{-1, 2008, 3};
-}
-
-void TestGraphViews::clicksReachTheirSignal()
-{
-    QFETCH(QString, chart);
-    QFETCH(QPoint, point);
-    QFETCH(bool, twice);
-    QFETCH(QString, signal);
-    QFETCH(QVariantList, arguments);
-
-    const std::unique_ptr<PWKGraphView> view = makeChart(chart, -1);
-    QSignalSpy selected(view.get(), &PWKGraphView::itemSelected);
-    QSignalSpy requested(view.get(), &PWKGraphView::categoryListRequested);
-    if (twice)
-        QTest::mouseDClick(view.get(), Qt::LeftButton, {}, point);
-    else
-        QTest::mouseClick(view.get(), Qt::LeftButton, {}, point);
-
-    QCOMPARE(requested.count(), signal == u"requested"_s ? 1 : 0);
-    if (signal == u"requested"_s)
-        QCOMPARE(requested.at(0), arguments);
-    // A double click's first press may select too; a single one only selects.
-    if (signal == u"selected"_s)
-        QCOMPARE(selected.value(0), arguments);
-    else if (!twice)
-        QCOMPARE(selected.count(), 0);
-}
-
-void TestGraphViews::lineAxisIsRoundedAndRuled_data()
-{
-    QTest::addColumn<ChartEntries>("year");
-    QTest::addColumn<qint64>("maximum");
-    QTest::addColumn<QList<qint64>>("labels");
-
-    ChartEntries spent = ChartData::monthsOfYear(2008);
-    spent[2].data = {{0, 12345}, {1, 3000}};
-    spent[4].data = {{1, 6000}};
-    QTest::newRow("rounded up") << spent << qint64(13000)
-                                << QList<qint64>{1700, 3200, 4900, 6600, 8100, 9800, 11000, 13000};
-    // Of the labels 0, 0, 0 and 1, those on top of each other are left out.
-    QTest::newRow("empty year") << ChartData::monthsOfYear(2009) << qint64(1)
-                                << QList<qint64>{0, 1};
-}
-
-void TestGraphViews::lineAxisIsRoundedAndRuled()
-{
-    QFETCH(ChartEntries, year);
-    QFETCH(qint64, maximum);
-    QFETCH(QList<qint64>, labels);
-
-    LineGraphView lines;
-    const QSize size(500, 400);
-    setUp(lines, size, year);
-    const QImage image = render(lines);
-    QCOMPARE(lines.axisMaximum(), maximum);
-    QCOMPARE(lines.axisLabels(), labels);
-
-    // Every label is written beside its own height on the axis, with a rule
-    // across the chart there (right of December's dots) and none between.
-    const double graphHeight = size.height() - 70.0;
-    const auto ruled = [&](int y) {
-        return countPixels(image, QRect(485, y - 1, 1, 3), [](QColor c) { return c != Qt::white; })
-            > 0;
-    };
-    int below = size.height() - 60;
-    for (const qint64 value : labels) {
-        const int y = size.height() - int(graphHeight / double(maximum) * double(value) + 60.0);
-        QVERIFY2(countPixels(image, QRect(0, y - 6, 45, 12), dark) > 5,
-                 qPrintable(QString::number(value)));
-        QVERIFY2(ruled(y), qPrintable(QString::number(value)));
-        if (y != below)
-            QVERIFY2(!ruled((y + below) / 2), qPrintable(QString::number(value)));
-        below = y;
-    }
-}
-
-void TestGraphViews::defaultColoursStayApart()
-{
-    // The formula against a published pair of its test data.
-    QVERIFY(std::abs(deltaE2000({50.0, 2.5, 0.0}, {73.0, 25.0, -18.0}) - 27.1492) < 1e-3);
-
-    QCOMPARE_GE(CategoryPalette::size(), 14);
-    for (int i = 0; i < 14; ++i) {
-        for (int j = i + 1; j < 14; ++j) {
-            const double distance = deltaE2000(toLab(toQColor(CategoryPalette::colorAt(i))),
-                                               toLab(toQColor(CategoryPalette::colorAt(j))));
-            QVERIFY2(distance >= 20.0, qPrintable(u"%1 and %2: %3"_s.arg(i).arg(j).arg(distance)));
-        }
-    }
-}
-
-void TestGraphViews::textReadsOnItsGround_data()
-{
-    QTest::addColumn<bool>("darkTheme");
-    QTest::addColumn<QString>("chart");
-    QTest::addColumn<QRect>("text");
-
-    for (const bool darkTheme : {false, true}) {
-        const char *theme = darkTheme ? "dark" : "light";
-        QTest::addRow("%s, amounts", theme) << darkTheme << u"lines"_s << QRect(0, 0, 46, 330);
-        QTest::addRow("%s, month on show", theme) << darkTheme << u"lines"_s
-                                                  << QRect(197, 345, 16, 20);
-        QTest::addRow("%s, bar months", theme) << darkTheme << u"bars"_s << QRect(7, 17, 90, 23);
-        QTest::addRow("%s, empty pie", theme) << darkTheme << u"empty pie"_s
-                                              << QRect(0, 0, 300, 300);
-        QTest::addRow("%s, beside pie", theme) << darkTheme << u"narrow slice"_s
-                                               << QRect(450, 0, 150, 24);
-    }
-}
-
-void TestGraphViews::textReadsOnItsGround()
-{
-    QFETCH(bool, darkTheme);
-    QFETCH(QString, chart);
-    QFETCH(QRect, text);
-
-    const QPalette theme = darkTheme ? darkPalette() : QApplication::style()->standardPalette();
-    const std::unique_ptr<PWKGraphView> view = makeChart(chart, -1);
-    view->setPalette(theme);
-    const QImage image = render(*view);
-
-    // The chart's ground is the theme's, and its text reads on it.
-    const QColor ground = theme.color(QPalette::Base);
-    QCOMPARE(image.pixelColor(image.width() - 1, 0), ground);
-    const double contrast = inkContrast(image, text, ground);
-    QVERIFY2(contrast >= 4.5, qPrintable(QString::number(contrast)));
-}
 
 QTEST_MAIN(TestGraphViews)
 #include "tst_graphviews.moc"

@@ -52,12 +52,122 @@ class TestListUndo : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void aChangeOfTheListsIsTakenBackAndMadeAgain_data();
-    void aChangeOfTheListsIsTakenBackAndMadeAgain();
-    void earlierChangesCanBeTakenBackBehindIt();
-    void aMonthChangedSinceRefusesTheRestore();
-    void aRestoreCutShortLeavesTheFolderAsItWas();
+    void init()
+    {
+        m_folder = m_home.freshDataFolder();
+        QVERIFY(LedgerGenerator().writeDataFolder(m_folder, kFirstYear, 1, 20));
+        m_recorded.clear();
+        m_ledger = std::make_unique<KController>();
+        m_ledger->readListPreference();
+        connect(m_ledger.get(), &KController::changeRecorded, this,
+                [this](const KController::Change &change) { m_recorded.append(change); });
+    }
+
+    void aChangeOfTheListsIsTakenBackAndMadeAgain_data()
+    {
+        QTest::addColumn<ListConversion>("conversion");
+        QTest::newRow("swap") << swapConversion();
+        QTest::newRow("merge") << mergeConversion();
+        ListConversion renaming;
+        QStringList payways = LedgerGenerator::paywayNames();
+        payways[0] = u"Pocket money"_s;
+        renaming.lists = {{ListFile::PaywayList, QVariant(payways).toList()}};
+        QTest::newRow("renaming only") << renaming;
+    }
+
+    void aChangeOfTheListsIsTakenBackAndMadeAgain()
+    {
+        QFETCH(ListConversion, conversion);
+        const auto before = folderContent(m_folder);
+        const QStringList categoriesBefore = m_ledger->categoryList();
+        const QStringList paywaysBefore = m_ledger->paywayList();
+        const auto march = m_ledger->monthListForYear(kFirstYear, 3);
+
+        QString error;
+        QVERIFY2(m_ledger->convertStoredData(conversion, &error), qPrintable(error));
+        QCOMPARE(m_recorded.size(), 1);
+        const KController::Change change = m_recorded.constFirst();
+        QCOMPARE(change.label, u"Change of Categories and Payways"_s);
+        QCOMPARE(change.months.isEmpty(), !conversion.renumbers());
+        const auto after = folderContent(m_folder);
+        const QByteArray marchAfter = MonthFile::encode(*march);
+        const QStringList categoriesAfter = m_ledger->categoryList();
+        const QStringList paywaysAfter = m_ledger->paywayList();
+
+        QVERIFY2(m_ledger->restoreChange(change, true, &error), qPrintable(error));
+        QCOMPARE(folderContent(m_folder), before);
+        QCOMPARE(m_ledger->categoryList(), categoriesBefore);
+        QCOMPARE(m_ledger->paywayList(), paywaysBefore);
+        QCOMPARE(MonthFile::encode(*march), before.value(u"Data_2001_3.Penwick"_s));
+        QVERIFY(!march->isEdited());
+
+        QVERIFY2(m_ledger->restoreChange(change, false, &error), qPrintable(error));
+        QCOMPARE(folderContent(m_folder), after);
+        QCOMPARE(m_ledger->categoryList(), categoriesAfter);
+        QCOMPARE(m_ledger->paywayList(), paywaysAfter);
+        QCOMPARE(MonthFile::encode(*march), marchAfter);
+        QCOMPARE(m_recorded.size(), 1); // restoring records nothing
+    }
+
+    void earlierChangesCanBeTakenBackBehindIt()
+    {
+        const auto before = folderContent(m_folder);
+        const auto june = m_ledger->monthListForYear(kFirstYear, 6);
+        {
+            KController::ChangeScope scope(m_ledger.get(), u"Change of Details"_s);
+            june->dataListArray().constFirst()->setDetails(u"Edited before"_s);
+        }
+        QVERIFY(m_ledger->saveAllEditedData());
+        QVERIFY(m_ledger->convertStoredData(swapConversion()));
+        QCOMPARE(m_recorded.size(), 2);
+
+        // Taken back in the order of the history, the edit finds its month in
+        // the numbers it was made in.
+        QString error;
+        QVERIFY2(m_ledger->restoreChange(m_recorded.at(1), true, &error), qPrintable(error));
+        QVERIFY2(m_ledger->restoreChange(m_recorded.at(0), true, &error), qPrintable(error));
+        QVERIFY(m_ledger->saveAllEditedData());
+        QCOMPARE(folderContent(m_folder), before);
+    }
+
+    void aMonthChangedSinceRefusesTheRestore()
+    {
+        QVERIFY(m_ledger->convertStoredData(swapConversion()));
+        const auto june = m_ledger->monthListForYear(kFirstYear, 6);
+        june->dataListArray().constFirst()->setAmount(1);
+        QVERIFY(m_ledger->saveAllEditedData());
+        const auto now = folderContent(m_folder);
+
+        QString error;
+        QVERIFY(!m_ledger->restoreChange(m_recorded.constFirst(), true, &error));
+        QVERIFY2(error.contains(u"6/2001"_s), qPrintable(error));
+        QCOMPARE(folderContent(m_folder), now);
+    }
+
+    void aRestoreCutShortLeavesTheFolderAsItWas()
+    {
+        QVERIFY(m_ledger->convertStoredData(swapConversion()));
+        const auto now = folderContent(m_folder);
+        m_ledger.reset();
+
+        // What an undo leaves when killed before it was decided: its journal,
+        // with the old content of a month written aside.
+        const KController::MonthChange &first = m_recorded.constFirst().months.constFirst();
+        const QString file =
+            QFileInfo(DataFolder::filePathForYear(m_folder, first.year, first.month)).fileName();
+        ConversionJournal journal(m_folder);
+        ListConversion restore;
+        restore.lists = m_recorded.constFirst().listsBefore;
+        QVERIFY(journal.begin(restore, {file}, false, nullptr));
+        QVERIFY(journal.writeMonth(file, first.before, nullptr));
+
+        KController nextStart;
+        QString error;
+        QVERIFY(!nextStart.finishInterruptedConversion(&error));
+        QVERIFY2(error.contains(u"cut short"_s), qPrintable(error));
+        QCOMPARE(folderContent(m_folder), now);
+        QVERIFY(nextStart.finishInterruptedConversion());
+    }
 
 private:
     // Every change the ledger records, in order.
@@ -66,123 +176,6 @@ private:
     QString m_folder;
     std::unique_ptr<KController> m_ledger;
 };
-
-void TestListUndo::init()
-{
-    m_folder = m_home.freshDataFolder();
-    QVERIFY(LedgerGenerator().writeDataFolder(m_folder, kFirstYear, 1, 20));
-    m_recorded.clear();
-    m_ledger = std::make_unique<KController>();
-    m_ledger->readListPreference();
-    connect(m_ledger.get(), &KController::changeRecorded, this,
-            [this](const KController::Change &change) { m_recorded.append(change); });
-}
-
-void TestListUndo::aChangeOfTheListsIsTakenBackAndMadeAgain_data()
-{
-    QTest::addColumn<ListConversion>("conversion");
-    QTest::newRow("swap") << swapConversion();
-    QTest::newRow("merge") << mergeConversion();
-    ListConversion renaming;
-    QStringList payways = LedgerGenerator::paywayNames();
-    payways[0] = u"Pocket money"_s;
-    renaming.lists = {{ListFile::PaywayList, QVariant(payways).toList()}};
-    QTest::newRow("renaming only") << renaming;
-}
-
-void TestListUndo::aChangeOfTheListsIsTakenBackAndMadeAgain()
-{
-    QFETCH(ListConversion, conversion);
-    const auto before = folderContent(m_folder);
-    const QStringList categoriesBefore = m_ledger->categoryList();
-    const QStringList paywaysBefore = m_ledger->paywayList();
-    const auto march = m_ledger->monthListForYear(kFirstYear, 3);
-
-    QString error;
-    QVERIFY2(m_ledger->convertStoredData(conversion, &error), qPrintable(error));
-    QCOMPARE(m_recorded.size(), 1);
-    const KController::Change change = m_recorded.constFirst();
-    QCOMPARE(change.label, u"Change of Categories and Payways"_s);
-    QCOMPARE(change.months.isEmpty(), !conversion.renumbers());
-    const auto after = folderContent(m_folder);
-    const QByteArray marchAfter = MonthFile::encode(*march);
-    const QStringList categoriesAfter = m_ledger->categoryList();
-    const QStringList paywaysAfter = m_ledger->paywayList();
-
-    QVERIFY2(m_ledger->restoreChange(change, true, &error), qPrintable(error));
-    QCOMPARE(folderContent(m_folder), before);
-    QCOMPARE(m_ledger->categoryList(), categoriesBefore);
-    QCOMPARE(m_ledger->paywayList(), paywaysBefore);
-    QCOMPARE(MonthFile::encode(*march), before.value(u"Data_2001_3.Penwick"_s));
-    QVERIFY(!march->isEdited());
-
-    QVERIFY2(m_ledger->restoreChange(change, false, &error), qPrintable(error));
-    QCOMPARE(folderContent(m_folder), after);
-    QCOMPARE(m_ledger->categoryList(), categoriesAfter);
-    QCOMPARE(m_ledger->paywayList(), paywaysAfter);
-    QCOMPARE(MonthFile::encode(*march), marchAfter);
-    QCOMPARE(m_recorded.size(), 1); // restoring records nothing
-}
-
-void TestListUndo::earlierChangesCanBeTakenBackBehindIt()
-{
-    const auto before = folderContent(m_folder);
-    const auto june = m_ledger->monthListForYear(kFirstYear, 6);
-    {
-        KController::ChangeScope scope(m_ledger.get(), u"Change of Details"_s);
-        june->dataListArray().constFirst()->setDetails(u"Edited before"_s);
-    }
-    QVERIFY(m_ledger->saveAllEditedData());
-    QVERIFY(m_ledger->convertStoredData(swapConversion()));
-    QCOMPARE(m_recorded.size(), 2);
-
-    // Taken back in the order of the history, the edit finds its month in
-    // the numbers it was made in.
-    QString error;
-    QVERIFY2(m_ledger->restoreChange(m_recorded.at(1), true, &error), qPrintable(error));
-    QVERIFY2(m_ledger->restoreChange(m_recorded.at(0), true, &error), qPrintable(error));
-    QVERIFY(m_ledger->saveAllEditedData());
-    QCOMPARE(folderContent(m_folder), before);
-}
-
-void TestListUndo::aMonthChangedSinceRefusesTheRestore()
-{
-    QVERIFY(m_ledger->convertStoredData(swapConversion()));
-    const auto june = m_ledger->monthListForYear(kFirstYear, 6);
-    june->dataListArray().constFirst()->setAmount(1);
-    QVERIFY(m_ledger->saveAllEditedData());
-    const auto now = folderContent(m_folder);
-
-    QString error;
-    QVERIFY(!m_ledger->restoreChange(m_recorded.constFirst(), true, &error));
-    QVERIFY2(error.contains(u"6/2001"_s), qPrintable(error));
-    QCOMPARE(folderContent(m_folder), now);
-}
-
-void TestListUndo::aRestoreCutShortLeavesTheFolderAsItWas()
-{
-    QVERIFY(m_ledger->convertStoredData(swapConversion()));
-    const auto now = folderContent(m_folder);
-    m_ledger.reset();
-
-    // What an undo leaves when killed before it was decided: its journal,
-    // with the old content of a month written aside.
-    const KController::MonthChange &first = m_recorded.constFirst().months.constFirst();
-    const QString file =
-        QFileInfo(DataFolder::filePathForYear(m_folder, first.year, first.month)).fileName();
-    ConversionJournal journal(m_folder);
-    ListConversion restore;
-    restore.lists = m_recorded.constFirst().listsBefore;
-    QVERIFY(journal.begin(restore, {file}, false, nullptr));
-    QVERIFY(journal.writeMonth(file, first.before, nullptr));
-
-    KController nextStart;
-    QString error;
-    QVERIFY(!nextStart.finishInterruptedConversion(&error));
-    QVERIFY2(error.contains(u"cut short"_s), qPrintable(error));
-    QCOMPARE(folderContent(m_folder), now);
-    QVERIFY(nextStart.finishInterruptedConversion());
-}
 
 QTEST_GUILESS_MAIN(TestListUndo)
 #include "tst_listundo.moc"

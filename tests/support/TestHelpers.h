@@ -33,6 +33,12 @@ inline QStringList detailsOf(const PaymentArray &records)
     return texts;
 }
 
+// "a b c" as {"a", "b", "c"}: lists of details in data tables, written short.
+inline QStringList words(const QString &text)
+{
+    return text.split(u' ', Qt::SkipEmptyParts);
+}
+
 inline PaymentDataPtr entry(int year, int month, int date, const QString &details,
                             float amount = 100, int category = 0, int payway = 0)
 {
