@@ -41,6 +41,10 @@
             <source>The budget file %1 cannot be read (%2); mend or remove it first.</source>
             <translation>The budget file %1 cannot be read (%2); mend or remove it first.</translation>
         </message>
+        <message>
+            <source>Change of Budgets</source>
+            <translation>Change of Budgets</translation>
+        </message>
     </context>
     <context>
         <name>BudgetFile</name>
@@ -677,6 +681,10 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>%1 was changed since, so the change of the lists cannot be taken back.</source>
             <translation>%1 was changed since, so the change of the lists cannot be taken back.</translation>
+        </message>
+        <message>
+            <source>%1 was changed since, so the change cannot be taken back.</source>
+            <translation>%1 was changed since, so the change cannot be taken back.</translation>
         </message>
         <message>
             <source>The file of %1/%2 could not be read, so nothing was booked.</source>

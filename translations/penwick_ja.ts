@@ -41,6 +41,10 @@
             <source>The budget file %1 cannot be read (%2); mend or remove it first.</source>
             <translation>予算ファイル %1 を読み込めません（%2）。先に修復するか削除してください。</translation>
         </message>
+        <message>
+            <source>Change of Budgets</source>
+            <translation>予算の変更</translation>
+        </message>
     </context>
     <context>
         <name>BudgetFile</name>
@@ -675,6 +679,10 @@ The month stays as it is here, with your changes, and they replace the damaged f
         <message>
             <source>%1 was changed since, so the change of the lists cannot be taken back.</source>
             <translation>%1 がその後変更されたため、リストの変更を取り消せません。</translation>
+        </message>
+        <message>
+            <source>%1 was changed since, so the change cannot be taken back.</source>
+            <translation>%1 がその後変更されたため、この変更は取り消せません。</translation>
         </message>
         <message>
             <source>The file of %1/%2 could not be read, so nothing was booked.</source>

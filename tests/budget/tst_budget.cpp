@@ -1,14 +1,15 @@
+#include "TestDataFolder.h"
 #include "TestHelpers.h"
 
 #include "budget/BudgetAmount.h"
 #include "budget/BudgetBook.h"
 #include "budget/BudgetCalculation.h"
 #include "budget/BudgetFile.h"
+#include "ledger/KController.h"
 #include "ledger/ListConversion.h"
 #include "storage/ListFile.h"
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <limits>
 
@@ -65,6 +66,10 @@ private slots:
     void unreadableFileIsLeftAlone();
     void typedAmounts_data();
     void typedAmounts();
+    void changesAreUndoneByteForByte();
+
+private:
+    TestDataFolder m_home;
 };
 
 void TestBudget::figuresOfAMonth_data()
@@ -200,19 +205,20 @@ void TestBudget::unreadableFileIsLeftAlone_data()
 void TestBudget::unreadableFileIsLeftAlone()
 {
     QFETCH(QByteArray, content);
-    QTemporaryDir folder;
-    const QString path = BudgetFile::pathIn(folder.path());
+    const QString path = BudgetFile::pathIn(m_home.freshDataFolder());
     writeBytes(path, content);
 
     QVERIFY(!BudgetFile::renumbered(content, conversionOf({{0, 1}, {1, 0}}, 4)));
-    BudgetBook book;
+    KController ledger;
+    BudgetBook &book = *ledger.budgets();
     QSignalSpy unreadable(&book, &BudgetBook::budgetFileUnreadable);
-    book.load(folder.path());
+    book.load();
     QCOMPARE(unreadable.size(), 1);
     QVERIFY(!book.problem().isEmpty());
     QVERIFY(book.plan().isEmpty());
     QString error;
-    QVERIFY(!book.setPlan(BudgetPlan{{{0, budget(10)}}, {}}, &error));
+    QVERIFY(!book.changePlan([](BudgetPlan &plan) { plan.categories.insert(0, budget(10)); },
+                             &error));
     QVERIFY(error.contains(book.problem()));
     QCOMPARE(readBytes(path), content);
 }
@@ -241,6 +247,45 @@ void TestBudget::typedAmounts()
     QCOMPARE(!problem.isEmpty(), refused);
     if (amount)
         QCOMPARE(BudgetAmount::read(BudgetAmount::editingText(*amount), &problem), amount);
+}
+
+// Each change of the budgets is one step of the undo history; taking it back
+// never throws away what another computer wrote since.
+void TestBudget::changesAreUndoneByteForByte()
+{
+    const QString path = BudgetFile::pathIn(m_home.freshDataFolder());
+    KController ledger;
+    QList<KController::Change> recorded;
+    connect(&ledger, &KController::changeRecorded, this,
+            [&recorded](const KController::Change &change) { recorded.append(change); });
+    BudgetBook &book = *ledger.budgets();
+    const auto set = [&book](int category, double amount) {
+        return book.changePlan(
+            [=](BudgetPlan &plan) { plan.categories.insert(category, budget(amount)); });
+    };
+    QVERIFY(set(0, 100));
+    const QByteArray first = readBytes(path);
+    QVERIFY(set(1, 50));
+    const QByteArray second = readBytes(path);
+    QVERIFY(set(1, 50)); // no change, no step
+    QCOMPARE(recorded.size(), 2);
+    const KController::Change step = recorded.constLast();
+    QVERIFY(step.months.isEmpty() && !step.changesLists());
+
+    QString error;
+    for (const bool before : {true, false}) {
+        QVERIFY2(ledger.restoreChange(step, before, &error), qPrintable(error));
+        QCOMPARE(readBytes(path), before ? first : second);
+        QCOMPARE(book.plan().categories.keys(), before ? QList<int>{0} : (QList<int>{0, 1}));
+    }
+    QCOMPARE(recorded.size(), 2);
+
+    // Undone after another computer wrote the file: refused, theirs kept.
+    const QByteArray theirs = BudgetFile::encode(BudgetPlan{{{2, budget(7)}}, {}});
+    writeBytes(path, theirs);
+    QVERIFY(!ledger.restoreChange(step, true, &error));
+    QVERIFY2(error.contains(BudgetFile::FileName), qPrintable(error));
+    QCOMPARE(readBytes(path), theirs);
 }
 
 QTEST_GUILESS_MAIN(TestBudget)

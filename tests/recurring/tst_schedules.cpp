@@ -4,6 +4,7 @@
 #include "TestHelpers.h"
 
 #include "budget/BudgetBook.h"
+#include "budget/BudgetFile.h"
 #include "ledger/KController.h"
 #include "recurring/ScheduleBook.h"
 #include "recurring/ScheduleFile.h"
@@ -77,6 +78,7 @@ private slots:
     void postingBooksEachOccurrenceOnce();
     void renumberingCarriesSchedulesAndBudgetsAlong();
     void anUnreadableFileIsLeftAlone();
+    void anotherComputersChangesAreFollowed();
     void killedPostingNeverBooksTwice();
 };
 
@@ -275,7 +277,7 @@ void TestSchedules::renumberingCarriesSchedulesAndBudgetsAlong()
     CategoryBudget budget;
     budget.amount = 15000;
     plan.categories.insert(0, budget);
-    QVERIFY(ledger.budgets()->setPlan(plan));
+    QVERIFY(ledger.budgets()->changePlan([&plan](BudgetPlan &held) { held = plan; }));
     const auto budgeted = [&ledger] { return ledger.budgets()->plan().categories.keys(); };
 
     // Category 0 and 1 change places, payways 0 and 2: the schedule follows.
@@ -285,15 +287,20 @@ void TestSchedules::renumberingCarriesSchedulesAndBudgetsAlong()
     QCOMPARE(book.schedules().constFirst().payway, 1);
     QCOMPARE(ScheduleFile::decode(readBytes(home.filePath(ScheduleFile::FileName)))->constFirst().category, 1);
     QCOMPARE(budgeted(), QList<int>{1});
-    QCOMPARE(recorded.size(), 1);
-    QCOMPARE(recorded.constFirst().files.size(), 2);
+    // The change of the budgets, then the renumbering.
+    QCOMPARE(recorded.size(), 2);
+    QCOMPARE(recorded.constLast().files.size(), 2);
 
     const QByteArray after = readBytes(home.filePath(ScheduleFile::FileName));
-    QVERIFY2(ledger.restoreChange(recorded.constFirst(), true, &error), qPrintable(error));
+    QVERIFY2(ledger.restoreChange(recorded.constLast(), true, &error), qPrintable(error));
     QCOMPARE(readBytes(home.filePath(ScheduleFile::FileName)), before);
     QCOMPARE(book.schedules().constFirst().category, 0);
     QCOMPARE(budgeted(), QList<int>{0});
+    // The budgets' step, behind it, is undone and redone in the old numbers.
+    QVERIFY2(ledger.restoreChange(recorded.constFirst(), true, &error), qPrintable(error));
+    QCOMPARE(budgeted(), QList<int>{});
     QVERIFY2(ledger.restoreChange(recorded.constFirst(), false, &error), qPrintable(error));
+    QVERIFY2(ledger.restoreChange(recorded.constLast(), false, &error), qPrintable(error));
     QCOMPARE(budgeted(), QList<int>{1});
     QCOMPARE(readBytes(home.filePath(ScheduleFile::FileName)), after);
     QCOMPARE(book.schedules().constFirst().category, 1);
@@ -328,6 +335,64 @@ void TestSchedules::anUnreadableFileIsLeftAlone()
     QCOMPARE(readBytes(home.filePath(ScheduleFile::FileName)), garbage);
     // The months work as ever.
     QVERIFY(ledger.addData({entry(2024, 3, 1, u"Bread"_s)}));
+}
+
+// Another computer changes the schedules and the budgets of the shared
+// folder: the books follow, and edits made here keep what it wrote, even
+// one made before the folder was looked at again.
+void TestSchedules::anotherComputersChangesAreFollowed()
+{
+    TestDataFolder home;
+    home.freshDataFolder();
+    KController ledger;
+    ledger.readListPreference();
+    ledger.watchSharedFolder();
+    ScheduleBook &book = *ledger.schedules();
+    book.load();
+    BudgetBook &budgets = *ledger.budgets();
+    const auto budgetFor = [](int category) {
+        return [category](BudgetPlan &plan) {
+            plan.categories.insert(category, {100.0 * (category + 1), {}, false, 0});
+        };
+    };
+    const Schedule rent = rule(Schedule::Every::Months, 1, 1, date("2024-01-01"));
+    QVERIFY(book.add(rent));
+    QVERIFY(budgets.changePlan(budgetFor(0)));
+
+    // Theirs: the rent booked through March, a schedule and a budget more.
+    Schedule rentThere = rent;
+    rentThere.last = date("2024-03-01");
+    rentThere.done = 3;
+    Schedule lesson = rule(Schedule::Every::Weeks, 1, 1, date("2024-01-01"));
+    lesson.details = u"Lesson"_s;
+    writeBytes(home.filePath(ScheduleFile::FileName), ScheduleFile::encode({rentThere, lesson}));
+    BudgetPlan plan = budgets.plan();
+    budgetFor(1)(plan);
+    writeBytes(home.filePath(BudgetFile::FileName), BudgetFile::encode(plan));
+    QTRY_COMPARE(book.schedules(), (QList<Schedule>{rentThere, lesson}));
+    QTRY_COMPARE(budgets.plan(), plan);
+
+    // The rent edited in a dialog opened before: how far it is booked stays.
+    Schedule edited = rent;
+    edited.details = u"Rent, new flat"_s;
+    QVERIFY(book.replace(edited));
+    // Theirs again, and at once an edit here.
+    budgetFor(2)(plan);
+    writeBytes(home.filePath(BudgetFile::FileName), BudgetFile::encode(plan));
+    QVERIFY(budgets.changePlan(budgetFor(3)));
+
+    const auto schedules = ScheduleFile::decode(readBytes(home.filePath(ScheduleFile::FileName)));
+    QVERIFY(schedules && schedules->size() == 2);
+    QCOMPARE(schedules->constFirst().details, edited.details);
+    QCOMPARE(schedules->constFirst().nextDate(), date("2024-04-01"));
+    QCOMPARE(BudgetFile::decode(readBytes(home.filePath(BudgetFile::FileName)))->categories.keys(),
+             (QList<int>{0, 1, 2, 3}));
+
+    // Spoilt there: reported, and nothing is booked from it.
+    QSignalSpy told(&book, &ScheduleBook::unreadable);
+    writeBytes(home.filePath(ScheduleFile::FileName), "<plist>half");
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY(book.schedules().isEmpty());
 }
 
 // A probe posts twenty monthly schedules over three years (720 entries in

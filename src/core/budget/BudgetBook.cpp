@@ -1,53 +1,61 @@
 #include "budget/BudgetBook.h"
 
 #include "budget/BudgetFile.h"
+#include "ledger/KController.h"
 #include "model/DataList.h"
-#include "storage/DurableFile.h"
+#include "model/Notifications.h"
 
-#include <QFile>
-
-BudgetBook::BudgetBook(QObject *parent)
-    : QObject(parent)
+BudgetBook::BudgetBook(KController *ledger)
+    : QObject(ledger)
+    , m_ledger(ledger)
 {
+    m_ledger->registerFolderFile(BudgetFile::FileName, &BudgetFile::renumbered);
+    // Once loaded, the budgets are those the folder holds: after a
+    // renumbering, its undo, another computer's change or a change of folder.
+    const auto reload = [this] {
+        if (m_loaded)
+            load();
+    };
+    connect(m_ledger, &KController::folderFileRewritten, this, [reload](const QString &name) {
+        if (name == BudgetFile::FileName)
+            reload();
+    });
+    connect(Notifications::instance(), &Notifications::listPreferenceHasUpDated, this, reload);
 }
 
-void BudgetBook::load(const QString &folder)
+void BudgetBook::load()
 {
-    m_folder = folder;
+    m_folder = m_ledger->dataFolderPath();
     m_loaded = true;
     m_plan = {};
     m_problem.clear();
-    const QString path = BudgetFile::pathIn(folder);
-    QFile file(path);
-    if (file.exists()) {
-        std::optional<BudgetPlan> plan;
-        if (file.open(QIODevice::ReadOnly))
-            plan = BudgetFile::decode(file.readAll(), &m_problem);
-        else
-            m_problem = file.errorString();
-        if (plan)
-            m_plan = *plan;
-        else
-            emit budgetFileUnreadable(path, m_problem);
-    }
+    const std::optional<QByteArray> content =
+        m_ledger->readFolderFile(BudgetFile::FileName, &m_problem);
+    const std::optional<BudgetPlan> plan =
+        content ? BudgetFile::decode(*content, &m_problem) : std::nullopt;
+    if (plan)
+        m_plan = *plan;
+    if (!m_problem.isEmpty())
+        emit budgetFileUnreadable(BudgetFile::pathIn(m_folder), m_problem);
     emit budgetsChanged();
 }
 
-void BudgetBook::reload()
+bool BudgetBook::changePlan(const std::function<void(BudgetPlan &)> &edit, QString *error)
 {
-    if (m_loaded)
-        load(m_folder);
-}
-
-bool BudgetBook::setPlan(const BudgetPlan &plan, QString *error)
-{
+    m_ledger->takeOutsideChangeOf(BudgetFile::FileName);
     if (!m_problem.isEmpty()) {
         if (error)
             *error = tr("The budget file %1 cannot be read (%2); mend or remove it first.")
                          .arg(BudgetFile::pathIn(m_folder), m_problem);
         return false;
     }
-    if (!DurableFile::write(BudgetFile::pathIn(m_folder), BudgetFile::encode(plan), error))
+    BudgetPlan plan = m_plan;
+    edit(plan);
+    if (plan == m_plan)
+        return true;
+    if (!m_ledger->changeFolderFile(
+            {BudgetFile::FileName, BudgetFile::encode(m_plan), BudgetFile::encode(plan)},
+            tr("Change of Budgets"), error))
         return false;
     m_plan = plan;
     emit budgetsChanged();

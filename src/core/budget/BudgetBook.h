@@ -10,6 +10,7 @@
 #include <memory>
 
 class DataList;
+class KController;
 
 // The budgets of one data folder, read from its budget file and written
 // back through it at every change. A file that cannot be read is reported
@@ -20,22 +21,25 @@ class BudgetBook : public QObject
     Q_OBJECT
 
 public:
-    explicit BudgetBook(QObject *parent = nullptr);
+    // Made by the ledger, its parent. Registers the budget file with it, so
+    // that the budgets follow their categories through a renumbering and
+    // its undo, and another computer's changes are read; reads nothing yet.
+    explicit BudgetBook(KController *ledger);
 
-    // Reads the folder's budgets (none when it has no budget file).
-    void load(const QString &folder);
-    // Reads the file of the folder loaded again.
-    void reload();
+    // Reads the budgets of the ledger's data folder (none when it has no
+    // budget file).
+    void load();
     const QString &folder() const { return m_folder; }
     bool isLoaded() const { return m_loaded; }
 
     const BudgetPlan &plan() const { return m_plan; }
     // Why the budget file cannot be read; empty when it can.
     const QString &problem() const { return m_problem; }
-    // Writes the budgets durably and announces them. False, with the reason,
-    // when the file cannot be read or written; the budgets are then as they
-    // were.
-    bool setPlan(const BudgetPlan &plan, QString *error = nullptr);
+    // Changes the budgets as the file holds them now (read again first, when
+    // another computer changed it), writes them durably as one step of the
+    // undo history, and announces them. False, with the reason, when the
+    // file cannot be read or written; the budgets are then as they were.
+    bool changePlan(const std::function<void(BudgetPlan &)> &edit, QString *error = nullptr);
 
     // The month's figures, the lists of the months before it handed out by
     // `listOf` for rolling over; a month it cannot give counts as spending
@@ -51,6 +55,7 @@ signals:
     void budgetFileUnreadable(const QString &path, const QString &reason);
 
 private:
+    KController *m_ledger;
     QString m_folder;
     bool m_loaded = false;
     BudgetPlan m_plan;

@@ -1,7 +1,6 @@
 #include "ledger/KController.h"
 
 #include "budget/BudgetBook.h"
-#include "budget/BudgetFile.h"
 #include "recurring/ScheduleBook.h"
 #include "ledger/ConversionJournal.h"
 #include "ledger/DataFolder.h"
@@ -86,21 +85,6 @@ KController::KController(QObject *parent)
     , m_budgets(new BudgetBook(this))
     , m_schedules(new ScheduleBook(this))
 {
-    // Budgets follow their categories through a renumbering, and its undo.
-    registerFolderFile(BudgetFile::FileName, &BudgetFile::renumbered);
-    // After a renumbering or a change of folder, the budgets as the folder
-    // now holds them.
-    const auto reloadBudgets = [this] {
-        if (m_budgets->isLoaded())
-            m_budgets->load(dataFolderPath());
-    };
-    connect(Notifications::instance(), &Notifications::listPreferenceHasUpDated, this,
-            reloadBudgets);
-    connect(this, &KController::folderFileRewritten, this,
-            [reloadBudgets](const QString &name) {
-                if (name == BudgetFile::FileName)
-                    reloadBudgets();
-            });
     connect(m_sharedFolder, &SharedFolder::changed, this, &KController::takeOutsideChanges);
     m_saveTimer.setSingleShot(true);
     m_saveTimer.setInterval(kSaveDelayMs);
@@ -132,9 +116,8 @@ QString KController::dataFolderPath()
 
 BudgetBook *KController::budgets()
 {
-    const QString folder = dataFolderPath();
-    if (!m_budgets->isLoaded() || m_budgets->folder() != folder)
-        m_budgets->load(folder);
+    if (!m_budgets->isLoaded() || m_budgets->folder() != dataFolderPath())
+        m_budgets->load();
     return m_budgets;
 }
 
@@ -553,6 +536,8 @@ bool KController::restoreChange(const Change &change, bool before, QString *erro
 {
     if (change.changesLists())
         return restoreLists(change, before, error);
+    if (!change.files.isEmpty())
+        return restoreFolderFiles(change.files, before, error);
     QList<std::pair<std::shared_ptr<MonthDataList>, std::shared_ptr<MonthDataList>>> restored;
     for (const MonthChange &month : change.months) {
         const auto list = monthListForYear(month.year, month.month);
@@ -970,8 +955,8 @@ bool KController::rewriteFolder(const ListConversion &conversion,
         [this, count, total](int done) { emit conversionProgress(count + done, total); }, &reason);
     m_writesHeld = WritesHeld::No;
     // Our own doing, not to be taken for another computer's; cut short, the
-    // folder holds some months of each kind.
-    for (int i = 0; i < months.size(); ++i) {
+    // folder holds some files of each kind.
+    for (int i = 0; i < count; ++i) {
         const QString path = QDir(dataFolderPath()).filePath(files.at(i));
         QFile file(path);
         m_sharedFolder->know(path, finished || !file.open(QIODevice::ReadOnly) ? contents.at(i)
@@ -1214,6 +1199,10 @@ void KController::startWatchingSharedFolder()
     };
     const QString listFile = ListFile::dictionaryPathString(folder);
     m_sharedFolder->know(listFile, contentOf(listFile));
+    for (const QString &name : m_folderFiles.names()) {
+        const QString path = QDir(folder).filePath(name);
+        m_sharedFolder->know(path, contentOf(path));
+    }
     for (const MonthDataList *month : cachedMonths()) {
         const QString path = filePathForYear(month->year(), month->month());
         m_sharedFolder->know(path, contentOf(path));
@@ -1244,6 +1233,13 @@ void KController::takeOutsideChanges(const QList<SharedFolder::FileChange> &file
         if (change.path == listFile) {
             takeOutsideLists(&notices);
             m_sharedFolder->know(change.path, change.bytes);
+            continue;
+        }
+        // Whoever holds its content reads it again, and reports it when it
+        // cannot.
+        if (const QString name = QFileInfo(change.path).fileName(); m_folderFiles.contains(name)) {
+            m_sharedFolder->know(change.path, change.bytes);
+            emit folderFileRewritten(name);
             continue;
         }
         const auto yearMonth = DataFolder::yearMonthFromPath(change.path);
@@ -1519,6 +1515,57 @@ void KController::registerFolderFile(const QString &name, const FolderFiles::Ren
     m_folderFiles.add(name, renumber);
 }
 
+std::optional<QByteArray> KController::readFolderFile(const QString &name, QString *error)
+{
+    const QString path = QDir(dataFolderPath()).filePath(name);
+    QString reason;
+    const std::optional<QByteArray> content = FolderFiles::read(dataFolderPath(), name, &reason);
+    m_sharedFolder->know(path, content);
+    setError(error, reason);
+    return content;
+}
+
+void KController::takeOutsideChangeOf(const QString &name)
+{
+    // Taken once the folder is through, like every other change.
+    if (m_writesHeld != WritesHeld::No || m_converting)
+        return;
+    const QString path = QDir(dataFolderPath()).filePath(name);
+    if (const auto change = m_sharedFolder->changeOf(path)) {
+        m_sharedFolder->know(path, change->bytes);
+        emit folderFileRewritten(name);
+    }
+}
+
+bool KController::changeFolderFile(const FolderFileChange &change, const QString &label,
+                                   QString *error)
+{
+    if (!writeFolderFile(change.name, change.after, error))
+        return false;
+    emit changeRecorded({label, {}, false, {}, {}, {change}});
+    return true;
+}
+
+bool KController::restoreFolderFiles(const QList<FolderFileChange> &files, bool before,
+                                     QString *error)
+{
+    // Whatever came after the change, here or on another computer, is not
+    // thrown away.
+    for (const FolderFileChange &file : files) {
+        if (FolderFiles::read(dataFolderPath(), file.name) != (before ? file.after : file.before)) {
+            setError(error, tr("%1 was changed since, so the change cannot be taken back.")
+                                .arg(file.name));
+            return false;
+        }
+    }
+    for (const FolderFileChange &file : files) {
+        if (!writeFolderFile(file.name, before ? file.before : file.after, error))
+            return false;
+        emit folderFileRewritten(file.name);
+    }
+    return true;
+}
+
 bool KController::writeFolderFile(const QString &name, const QByteArray &content, QString *error)
 {
     if (m_writesHeld != WritesHeld::No) {
@@ -1530,7 +1577,9 @@ bool KController::writeFolderFile(const QString &name, const QByteArray &content
     const bool journaled =
         (m_journal || m_filesPending.contains(name)) && journal({}, {{name, content}});
     QString reason;
-    if (DurableFile::write(QDir(dataFolderPath()).filePath(name), content, &reason)) {
+    const QString path = QDir(dataFolderPath()).filePath(name);
+    if (DurableFile::write(path, content, &reason)) {
+        m_sharedFolder->know(path, content);
         m_filesPending.remove(name);
         return true;
     }
@@ -1554,7 +1603,9 @@ bool KController::writeJournaledFiles()
         return m_filesPending.isEmpty();
     for (auto file = m_filesPending.begin(); file != m_filesPending.end();) {
         QString reason;
-        if (DurableFile::write(QDir(dataFolderPath()).filePath(file.key()), file.value(), &reason)) {
+        const QString path = QDir(dataFolderPath()).filePath(file.key());
+        if (DurableFile::write(path, file.value(), &reason)) {
+            m_sharedFolder->know(path, file.value());
             file = m_filesPending.erase(file);
         } else {
             qWarning("%s", qPrintable(reason));

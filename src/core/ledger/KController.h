@@ -112,7 +112,8 @@ public:
         QVariantMap listsAfter;
         bool changesLists() const { return !listsAfter.isEmpty(); }
         // The registered folder files (see registerFolderFile()) a change
-        // of the lists renumbered, before and after.
+        // of the lists renumbered, or that changeFolderFile() changed,
+        // before and after.
         QList<FolderFileChange> files;
     };
     // Every change of a month until the matching endChange() is one Change
@@ -138,8 +139,9 @@ public:
     // Puts the months back into the state given, before or after the change
     // (undo and redo). Kept and saved like any change, but not recorded as
     // one. False, with the reason, when a month can no longer take it (its
-    // file became unreadable) or, for the lists, the folder could not be
-    // rewritten; nothing is then changed.
+    // file became unreadable), a folder file no longer holds what the change
+    // left or, for the lists, the folder could not be rewritten; nothing is
+    // then changed.
     bool restoreChange(const Change &change, bool before, QString *error = nullptr);
     // Whether an edited month of the cache is not on the disk.
     bool hasUnsavedMonths() const;
@@ -210,10 +212,11 @@ public:
     // From now on, and in every data folder used later, changes that others
     // make to the folder's files (a second computer through a sync service)
     // are taken in: a cached month that is not edited here reloads, an edited
-    // one is merged with theirs (see MonthMerge), the list file is read
-    // again. Before a month is written its file is checked, so that no
-    // outside change is written over. Such a change cannot be taken back, so
-    // the changes recorded so far expire.
+    // one is merged with theirs (see MonthMerge), the list file and the
+    // registered folder files are read again. Before a month is written its
+    // file is checked, so that no outside change is written over. A change
+    // of months or lists cannot be taken back, so the changes recorded so
+    // far expire.
     void watchSharedFolder();
 
     // Books the entries of an imported file as one change, whole or not at
@@ -252,15 +255,33 @@ public:
     // - the Change keeps its content before and after (Change::files), and
     //   undo and redo put it back with the months; refused when the file
     //   was changed since.
+    // - in a shared folder (watchSharedFolder()), a change others make to it
+    //   is taken in as a month's is: once no renumbering or booking is
+    //   under way, and at once by takeOutsideChangeOf().
     // - folderFileRewritten(name) tells whoever holds its content to read
-    //   it again, after any of these and after a replay of the journal.
-    // Write such a file only through writeFolderFile() or
-    // bookWithFolderFiles(): the journal may hold an older content of it
+    //   it again (through readFolderFile()), after any of these and after
+    //   a replay of the journal.
+    // Write such a file only through writeFolderFile(), changeFolderFile()
+    // or bookWithFolderFiles(): the journal may hold an older content of it
     // that a replay would otherwise bring back.
     void registerFolderFile(const QString &name, const FolderFiles::Renumber &renumber);
+    // The registered file's content, for whoever holds it from now on: a
+    // change others make after this is told by folderFileRewritten().
+    // Nothing when there is no file, or with the reason when it cannot be
+    // read.
+    std::optional<QByteArray> readFolderFile(const QString &name, QString *error = nullptr);
+    // Takes in a change others made to the registered file that was not
+    // taken yet. Called before an edit of it, so that the edit starts from
+    // what the file holds and writes over nothing unseen.
+    void takeOutsideChangeOf(const QString &name);
     // Writes a registered file of the folder durably. Refused, with the
     // reason, while the lists are being renumbered or an import booked.
     bool writeFolderFile(const QString &name, const QByteArray &content, QString *error = nullptr);
+    // writeFolderFile() of change.after as one step of the undo history,
+    // under the label: taking it back writes change.before, and is refused
+    // once the file holds anything but change.after.
+    bool changeFolderFile(const FolderFileChange &change, const QString &label,
+                          QString *error = nullptr);
     // Books the entries and the new contents of registered files as one
     // change, whole or not at all, like bookImport(): one record of the
     // journal holds the months and the files, and they are booked once it
@@ -273,7 +294,8 @@ public:
                              const QString &label, QString *error = nullptr);
 
 signals:
-    // A registered folder file was rewritten by the ledger: read it again.
+    // A registered folder file was rewritten by the ledger, or changed by
+    // others: read it again.
     void folderFileRewritten(const QString &name);
     // Emitted before the edited months are written, so that a window can hand
     // over what it still holds (a memo being typed).
@@ -321,6 +343,7 @@ private:
     // being rewritten, which the changes recorded before cannot account for.
     bool settleRewrittenMonths(const std::function<void(MonthDataList *)> &apply);
     bool restoreLists(const Change &change, bool before, QString *error);
+    bool restoreFolderFiles(const QList<FolderFileChange> &files, bool before, QString *error);
     // What the list file holds now under each of the keys.
     QVariantMap heldLists(const QVariantMap &keys);
     QList<MonthDataList *> cachedMonths() const;

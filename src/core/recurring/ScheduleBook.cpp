@@ -40,16 +40,19 @@ ScheduleBook::ScheduleBook(KController *ledger)
 
 void ScheduleBook::load()
 {
-    const QString folder = m_ledger->dataFolderPath();
     QString reason;
-    const std::optional<QList<Schedule>> schedules = ScheduleFile::read(folder, &reason);
+    const auto bytes = m_ledger->readFolderFile(ScheduleFile::FileName, &reason);
+    // No file, no schedules.
+    const std::optional<QList<Schedule>> schedules =
+        bytes ? ScheduleFile::decode(*bytes, &reason)
+              : (reason.isEmpty() ? std::optional(QList<Schedule>()) : std::nullopt);
     if (!schedules)
         reason = tr("The schedules file cannot be read: %1 It is left as it is, and no entry "
                     "is booked from it until it is mended.")
                      .arg(reason);
     m_schedules = schedules.value_or(QList<Schedule>());
     if (std::exchange(m_problem, schedules ? QString() : reason) != m_problem && !m_problem.isEmpty())
-        emit unreadable(ScheduleFile::path(folder), m_problem);
+        emit unreadable(ScheduleFile::path(m_ledger->dataFolderPath()), m_problem);
     emit changed();
 }
 
@@ -68,8 +71,14 @@ bool ScheduleBook::refusedWhileUnreadable(QString *error) const
     return true;
 }
 
+void ScheduleBook::catchUp()
+{
+    m_ledger->takeOutsideChangeOf(ScheduleFile::FileName);
+}
+
 bool ScheduleBook::add(Schedule schedule, QString *error)
 {
+    catchUp();
     if (schedule.id.isEmpty())
         schedule.id = Schedule::newId();
     if (this->schedule(schedule.id)) {
@@ -83,6 +92,7 @@ bool ScheduleBook::add(Schedule schedule, QString *error)
 
 bool ScheduleBook::replace(const Schedule &schedule, QString *error)
 {
+    catchUp();
     QList<Schedule> schedules = m_schedules;
     const auto found = std::find_if(schedules.begin(), schedules.end(),
                                     [&schedule](const Schedule &s) { return s.id == schedule.id; });
@@ -90,8 +100,14 @@ bool ScheduleBook::replace(const Schedule &schedule, QString *error)
         setError(error, tr("The schedule is gone."));
         return false;
     }
+    // How far it is booked stays the book's: a posting, here or on another
+    // computer, may have gone on while the rule was being edited.
+    const QDate last = found->last;
+    const int done = found->done;
     *found = schedule;
-    return store(schedule, schedules, error);
+    found->last = last;
+    found->done = done;
+    return store(*found, schedules, error);
 }
 
 bool ScheduleBook::store(const Schedule &schedule, const QList<Schedule> &schedules,
@@ -112,6 +128,7 @@ bool ScheduleBook::store(const Schedule &schedule, const QList<Schedule> &schedu
 
 bool ScheduleBook::remove(const QString &id, QString *error)
 {
+    catchUp();
     if (refusedWhileUnreadable(error))
         return false;
     QList<Schedule> schedules = m_schedules;
@@ -138,6 +155,8 @@ bool ScheduleBook::commit(const QList<Schedule> &schedules, const PaymentArray &
 bool ScheduleBook::postDue(const QDate &day, QList<Occurrence> *offered, QString *error)
 {
     offered->clear();
+    // What another computer booked already is not booked again.
+    catchUp();
     // Reported when it was read; without it there is nothing to book.
     if (!m_problem.isEmpty())
         return true;
@@ -159,6 +178,7 @@ bool ScheduleBook::postDue(const QDate &day, QList<Occurrence> *offered, QString
 
 bool ScheduleBook::settle(const QList<Occurrence> &answers, QString *error)
 {
+    catchUp();
     if (refusedWhileUnreadable(error))
         return false;
     QList<Occurrence> ordered = answers;

@@ -13,8 +13,8 @@
 class KController;
 
 // The schedules of the data folder, as the ledger's partner: it reads them
-// from the folder's schedules file, writes every change at once, and books
-// what falls due.
+// from the folder's schedules file (again whenever another computer changed
+// it), writes every change at once, and books what falls due.
 //
 // Booking is done so that nothing is booked twice, whenever the program
 // stops: the entries and the schedules' new progress go into one record of
@@ -84,6 +84,9 @@ private:
     // Checks the schedule and writes the schedules it is one of.
     bool store(const Schedule &schedule, const QList<Schedule> &schedules, QString *error);
     bool refusedWhileUnreadable(QString *error) const;
+    // Takes in another computer's change of the file before an edit, so that
+    // the edit is made to what the file holds.
+    void catchUp();
     void armTimer();
 
     KController *m_ledger;

@@ -1,6 +1,5 @@
 #include "recurring/ScheduleFile.h"
 
-#include "ledger/FolderFiles.h"
 #include "storage/PropertyList.h"
 
 #include <QDir>
@@ -145,19 +144,6 @@ std::optional<Schedule> fromMap(const QVariantMap &map, QString *wrongKey)
 QString ScheduleFile::path(const QString &folder)
 {
     return QDir(folder).filePath(FileName);
-}
-
-std::optional<QList<Schedule>> ScheduleFile::read(const QString &folder, QString *error)
-{
-    QString reason;
-    const std::optional<QByteArray> bytes = FolderFiles::read(folder, FileName, &reason);
-    if (bytes)
-        return decode(*bytes, error);
-    if (reason.isEmpty())
-        return QList<Schedule>();
-    if (error)
-        *error = reason;
-    return std::nullopt;
 }
 
 QByteArray ScheduleFile::encode(const QList<Schedule> &schedules)

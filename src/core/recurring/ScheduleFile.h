@@ -23,9 +23,6 @@ public:
     static constexpr QLatin1StringView FileName{"Schedules.plist"};
 
     static QString path(const QString &folder);
-    // The schedules of the folder: none when it has no file, nothing with
-    // the reason when the file cannot be read.
-    static std::optional<QList<Schedule>> read(const QString &folder, QString *error = nullptr);
     static QByteArray encode(const QList<Schedule> &schedules);
     // Nothing, with the reason, when the bytes are not a schedules file.
     static std::optional<QList<Schedule>> decode(const QByteArray &bytes, QString *error = nullptr);

@@ -215,6 +215,16 @@ void Settings::setBarChartNumberOfChart(int count)
     m_settings->setValue(SettingsKeys::BarChartNumberOfChart, count);
 }
 
+bool Settings::lineChartShowsBudgets() const
+{
+    return m_settings->value(SettingsKeys::LineChartBudgets, false).toBool();
+}
+
+void Settings::setLineChartShowsBudgets(bool shown)
+{
+    m_settings->setValue(SettingsKeys::LineChartBudgets, shown);
+}
+
 QByteArray Settings::savedLayout(const QString &name) const
 {
     return m_settings->value(name).toByteArray();

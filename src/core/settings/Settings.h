@@ -98,6 +98,9 @@ public:
     // How many months the bar chart shows; 0 when none was stored.
     int barChartNumberOfChart() const;
     void setBarChartNumberOfChart(int count);
+    // Whether the line chart draws the budgets; not unless asked for.
+    bool lineChartShowsBudgets() const;
+    void setLineChartShowsBudgets(bool shown);
 
     // How the windows look: as the desktop has them, or in the program's own
     // light or dark colours. Stored, and named on the command line, as

@@ -35,6 +35,7 @@ inline constexpr QLatin1StringView ListWindowSplitView{"ListWindowSplitView"};
 // Charts.
 inline constexpr QLatin1StringView ChartSelection{"PWK_Chart_Selection"};
 inline constexpr QLatin1StringView BarChartNumberOfChart{"PWK_BarChart_NumberOfChart"};
+inline constexpr QLatin1StringView LineChartBudgets{"PWK_LineChart_Budgets"};
 
 // How the windows look: "system", "light" or "dark".
 inline constexpr QLatin1StringView Appearance{"Appearance"};

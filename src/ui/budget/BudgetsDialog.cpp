@@ -13,6 +13,29 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+namespace {
+
+// The budget of a row of the table: a category's, or all spending's.
+std::optional<CategoryBudget> budgetOf(const BudgetPlan &plan, int row, bool all)
+{
+    if (all)
+        return plan.allSpending;
+    return plan.categories.contains(row) ? std::optional(plan.categories.value(row))
+                                         : std::nullopt;
+}
+
+void setBudget(BudgetPlan &plan, int row, bool all, const std::optional<CategoryBudget> &budget)
+{
+    if (all)
+        plan.allSpending = budget;
+    else if (budget)
+        plan.categories.insert(row, *budget);
+    else
+        plan.categories.remove(row);
+}
+
+} // namespace
+
 BudgetsDialog::BudgetsDialog(BudgetBook *book, const QStringList &categories, QWidget *parent)
     : QDialog(parent)
     , m_book(book)
@@ -81,7 +104,7 @@ void BudgetsDialog::setMonth(int year, int month)
 
 void BudgetsDialog::fillTable()
 {
-    const BudgetPlan &plan = m_book->plan();
+    m_shown = m_book->plan();
     // The spending categories, then all spending; the income category has
     // no budget.
     const int spending = std::max(0, int(m_categories.size()) - 1);
@@ -89,10 +112,7 @@ void BudgetsDialog::fillTable()
     m_table->setRowCount(spending + 1);
     for (int row = 0; row <= spending; ++row) {
         const bool all = row == spending;
-        const std::optional<CategoryBudget> budget =
-            all ? plan.allSpending
-                : (plan.categories.contains(row) ? std::optional(plan.categories.value(row))
-                                                  : std::nullopt);
+        const std::optional<CategoryBudget> budget = budgetOf(m_shown, row, all);
         auto *name = new QTableWidgetItem(all ? tr("All spending") : m_categories.at(row));
         name->setFlags(Qt::ItemIsEnabled);
         if (all) {
@@ -173,21 +193,19 @@ std::optional<CategoryBudget> BudgetsDialog::rowBudget(int row, const CategoryBu
 
 void BudgetsDialog::accept()
 {
-    const BudgetPlan &held = m_book->plan();
-    BudgetPlan plan;
+    // Only the rows changed here are written: another computer may have
+    // changed other budgets since the table was filled.
+    BudgetPlan typed;
+    QList<int> changed;
     const int spending = m_table->rowCount() - 1;
     QTableWidgetItem *bad = nullptr;
     for (int row = 0; row <= spending && !bad; ++row) {
         const bool all = row == spending;
-        const CategoryBudget before =
-            all ? held.allSpending.value_or(CategoryBudget()) : held.categories.value(row);
-        const auto budget = rowBudget(row, before, &bad);
-        if (!budget)
-            continue;
-        if (all)
-            plan.allSpending = budget;
-        else
-            plan.categories.insert(row, *budget);
+        const std::optional<CategoryBudget> shown = budgetOf(m_shown, row, all);
+        const auto budget = rowBudget(row, shown.value_or(CategoryBudget()), &bad);
+        setBudget(typed, row, all, budget);
+        if (budget != shown)
+            changed.append(row);
     }
     if (bad) {
         checkCell(bad);
@@ -196,7 +214,11 @@ void BudgetsDialog::accept()
         return;
     }
     QString error;
-    if (!m_book->setPlan(plan, &error)) {
+    const auto edit = [&typed, &changed, spending](BudgetPlan &plan) {
+        for (const int row : std::as_const(changed))
+            setBudget(plan, row, row == spending, budgetOf(typed, row, row == spending));
+    };
+    if (!m_book->changePlan(edit, &error)) {
         m_message->setText(tr("The budgets could not be saved: %1").arg(error));
         m_message->show();
         return;

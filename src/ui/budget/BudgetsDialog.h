@@ -12,7 +12,8 @@ class QTableWidgetItem;
 // Where the budgets are set: one row per spending category and one for all
 // spending, each with its amount for every month, its own amount for the
 // month in view and whether what is left rolls over. An amount that cannot
-// be read is marked in its cell and keeps the dialog from closing.
+// be read is marked in its cell and keeps the dialog from closing. OK writes
+// the rows changed, as one step of the undo history.
 class BudgetsDialog : public QDialog
 {
     Q_OBJECT
@@ -36,6 +37,8 @@ private:
     bool checkCell(QTableWidgetItem *item);
 
     BudgetBook *m_book;
+    // The budgets the table was filled with.
+    BudgetPlan m_shown;
     QStringList m_categories;
     int m_month = 0;
     QTableWidget *m_table;

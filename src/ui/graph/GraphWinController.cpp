@@ -175,7 +175,11 @@ QWidget *GraphWinController::buildToolRow()
     m_budgetCheck = new QCheckBox(tr("B&udget"), row);
     m_budgetCheck->setObjectName(QStringLiteral("budgetCheck"));
     m_budgetCheck->setToolTip(tr("Draw each category's budget as a dashed line"));
-    connect(m_budgetCheck, &QCheckBox::toggled, this, &GraphWinController::showBudgetLines);
+    m_budgetCheck->setChecked(Settings().lineChartShowsBudgets());
+    connect(m_budgetCheck, &QCheckBox::toggled, this, [this](bool checked) {
+        Settings().setLineChartShowsBudgets(checked);
+        showBudgetLines();
+    });
     layout->addWidget(m_budgetCheck);
     layout->addStretch(1);
 
