@@ -5,7 +5,9 @@
 #include "TestLedgerController.h"
 
 #include "budget/BudgetBook.h"
+#include "ledger/KController.h"
 #include "model/MonthDataList.h"
+#include "settings/Settings.h"
 
 #include <benchmark/benchmark.h>
 
@@ -36,9 +38,10 @@ void BM_BudgetOfAMonth(benchmark::State &state)
         plan.categories.insert(category, {10000, {{202601, 12000}}, true, 202501});
     plan.allSpending = CategoryBudget{300000, {}, true, 202501};
     QTemporaryDir folder;
-    BudgetBook book;
-    book.load(folder.path());
-    if (!book.setPlan(plan)) {
+    Settings().setDataPath(folder.path());
+    KController ledger;
+    BudgetBook &book = *ledger.budgets();
+    if (!book.changePlan([&plan](BudgetPlan &stored) { stored = plan; })) {
         state.SkipWithError("the budgets could not be written");
         return;
     }
@@ -52,4 +55,3 @@ BENCHMARK(BM_BudgetOfAMonth)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 
-BENCHMARK_MAIN();

@@ -51,7 +51,7 @@ void BM_PostThirtyYearsOfTwentyMonthlySchedules(benchmark::State &state)
         schedules.close();
         auto ledger = std::make_unique<KController>();
         ledger->readListPreference();
-        ScheduleBook book(ledger.get());
+        ScheduleBook &book = *ledger->schedules();
         book.load();
         state.ResumeTiming();
 
