@@ -2509,10 +2509,6 @@ Show Details… tells more of each.</translation>
     <context>
         <name>ScheduleFile</name>
         <message>
-            <source>It is not a property list (%1).</source>
-            <translation>It is not a property list (%1).</translation>
-        </message>
-        <message>
             <source>It holds no list of schedules.</source>
             <translation>It holds no list of schedules.</translation>
         </message>
@@ -2620,6 +2616,25 @@ Show Details… tells more of each.</translation>
         <message>
             <source>All files (*)</source>
             <translation>All files (*)</translation>
+        </message>
+    </context>
+    <context>
+        <name>PropertyList</name>
+        <message>
+            <source>The file is empty.</source>
+            <translation>The file is empty.</translation>
+        </message>
+        <message>
+            <source>The file is too large.</source>
+            <translation>The file is too large.</translation>
+        </message>
+        <message>
+            <source>It is not a property list.</source>
+            <translation>It is not a property list.</translation>
+        </message>
+        <message>
+            <source>It holds a kind of value Penwick does not keep.</source>
+            <translation>It holds a kind of value Penwick does not keep.</translation>
         </message>
     </context>
 </TS>

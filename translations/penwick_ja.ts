@@ -2499,10 +2499,6 @@ Show Details… tells more of each.</source>
     <context>
         <name>ScheduleFile</name>
         <message>
-            <source>It is not a property list (%1).</source>
-            <translation>プロパティリストではありません（%1）。</translation>
-        </message>
-        <message>
             <source>It holds no list of schedules.</source>
             <translation>定期項目の一覧がありません。</translation>
         </message>
@@ -2610,6 +2606,25 @@ Show Details… tells more of each.</source>
         <message>
             <source>All files (*)</source>
             <translation>すべてのファイル (*)</translation>
+        </message>
+    </context>
+    <context>
+        <name>PropertyList</name>
+        <message>
+            <source>The file is empty.</source>
+            <translation>ファイルが空です。</translation>
+        </message>
+        <message>
+            <source>The file is too large.</source>
+            <translation>ファイルが大きすぎます。</translation>
+        </message>
+        <message>
+            <source>It is not a property list.</source>
+            <translation>プロパティリストではありません。</translation>
+        </message>
+        <message>
+            <source>It holds a kind of value Penwick does not keep.</source>
+            <translation>Penwick が扱わない種類の値が含まれています。</translation>
         </message>
     </context>
 </TS>

@@ -165,7 +165,7 @@ std::optional<QList<Schedule>> ScheduleFile::decode(const QByteArray &bytes, QSt
     QString reason;
     const QVariant root = PropertyList::fromData(bytes, &reason);
     if (!root.isValid())
-        return fail(tr("It is not a property list (%1).").arg(reason));
+        return fail(reason);
     const QVariantMap dictionary = root.toMap();
     if (root.typeId() != QMetaType::QVariantMap
         || dictionary.value(u"Schedules"_s).typeId() != QMetaType::QVariantList)

@@ -1,5 +1,6 @@
 #include "storage/PropertyList.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QTimeZone>
 
@@ -149,17 +150,18 @@ QVariant fromData(const QByteArray &data, QString *error)
         return QVariant();
     };
     if (data.isEmpty())
-        return fail(QStringLiteral("the file is empty"));
+        return fail(QCoreApplication::translate("PropertyList", "The file is empty."));
     if (data.size() > qsizetype(std::numeric_limits<uint32_t>::max()))
-        return fail(QStringLiteral("the file is too large"));
+        return fail(QCoreApplication::translate("PropertyList", "The file is too large."));
     plist_t root = nullptr;
     plist_from_memory(data.constData(), uint32_t(data.size()), &root);
     const PlistPtr owner(root);
     if (!root)
-        return fail(QStringLiteral("not a property list"));
+        return fail(QCoreApplication::translate("PropertyList", "It is not a property list."));
     QVariant value = toVariant(root, 0);
     if (!value.isValid())
-        return fail(QStringLiteral("the property list holds an unsupported value"));
+        return fail(QCoreApplication::translate("PropertyList",
+                                                "It holds a kind of value Penwick does not keep."));
     return value;
 }
 
