@@ -1,4 +1,5 @@
 #include "LedgerGenerator.h"
+#include "ProbeRun.h"
 #include "TestDataFolder.h"
 #include "TestHelpers.h"
 
@@ -85,7 +86,7 @@ private slots:
             QProcess app;
             app.setProcessChannelMode(QProcess::ForwardedErrorChannel);
             app.start(QStringLiteral(EDIT_PROBE_PATH), {folder, kind, value});
-            QVERIFY2(app.waitForReadyRead(10000), "the probe did not get ready");
+            QVERIFY2(app.waitForReadyRead(kProbeWaitMs), "the probe did not get ready");
             QCOMPARE(app.readLine().trimmed(), "ready");
             app.write("go\n");
             QVERIFY(app.waitForBytesWritten(1000));
@@ -93,12 +94,12 @@ private slots:
             // otherwise the kill may also land before or during it.
             const bool afterReturn = round % 2 == 0;
             if (afterReturn) {
-                QVERIFY2(app.waitForReadyRead(10000), "the probe did not report its change");
+                QVERIFY2(app.waitForReadyRead(kProbeWaitMs), "the probe did not report its change");
                 QCOMPARE(app.readLine().trimmed(), "edited");
             }
             std::this_thread::sleep_for(std::chrono::microseconds(delayUs(random)));
             app.kill(); // SIGKILL: no handler, no quitting in order
-            QVERIFY(app.waitForFinished(5000));
+            QVERIFY(app.waitForFinished(kProbeWaitMs));
             const bool done = afterReturn || app.readAllStandardOutput().contains("edited");
 
             const Shown after = restart();
@@ -148,10 +149,10 @@ private slots:
         QProcess app;
         app.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         app.start(QStringLiteral(QUIT_PROBE_PATH), {folder, u"2006"_s, u"5"_s});
-        QVERIFY2(app.waitForReadyRead(10000), "the probe did not report its unsaved month");
+        QVERIFY2(app.waitForReadyRead(kProbeWaitMs), "the probe did not report its unsaved month");
         QCOMPARE(app.readLine().trimmed(), "unsaved");
         app.terminate(); // SIGTERM
-        QVERIFY(app.waitForFinished(10000));
+        QVERIFY(app.waitForFinished(kProbeWaitMs));
         QCOMPARE(app.exitStatus(), QProcess::NormalExit);
 
         QCOMPARE(readBytes(may), before);
